@@ -1,0 +1,45 @@
+#include "app/drag_scroll.h"
+
+#include <algorithm>
+
+#include "app/view.h"
+#include "model/puzzle.h"
+#include "platform/windows.h"
+#include "play/settings.h"
+
+namespace {
+
+// The scroll position after a move of the stylus; the board follows it.
+int Dragged(int scroll, int move, int visible, int extent) {
+    if (move < 0 && scroll - move + visible <= extent) {
+        return scroll - move;
+    }
+    if (move > 0 && scroll - move >= 0) {
+        return scroll - move;
+    }
+    return scroll;
+}
+
+}  // namespace
+
+bool BoardExceedsView(HWND window) {
+    RECT client;
+    GetClientRect(window, &client);
+    return PuzzleWidth * CellSize > client.right - client.left ||
+           PuzzleHeight * CellSize > client.bottom - client.top - BottomReserve;
+}
+
+void DragScroll(HWND window) {
+    if (Magnification.Medium == 0 && Magnification.Large == 0) {
+        return;
+    }
+    RECT client;
+    GetClientRect(window, &client);
+    // A buffer of the window's size reaches beyond a board that is narrower than the window.
+    const int boardBottom = std::min(BufferHeight, PuzzleHeight * CellSize + 1);
+    ScrollX = Dragged(ScrollX, StylusNow.x - StylusLast.x, client.right, BufferWidth);
+    ScrollY =
+        Dragged(ScrollY, StylusNow.y - StylusLast.y, client.bottom - BottomReserve, boardBottom);
+    StylusLast = StylusNow;
+    CopyViewToScreen(window);
+}

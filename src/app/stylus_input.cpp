@@ -1,0 +1,86 @@
+#include "app/stylus_input.h"
+
+#include "app/drag_scroll.h"
+#include "app/view.h"
+#include "board/board_tap.h"
+#include "model/puzzle.h"
+#include "platform/windows.h"
+#include "play/scroll_into_view.h"
+#include "play/settings.h"
+
+namespace {
+
+// Dragging may leave the window, so the coordinates are signed.
+POINT SignedPoint(LPARAM point) {
+    const auto packed = static_cast<WPARAM>(point);
+    return {static_cast<std::int16_t>(LOWORD(packed)), static_cast<std::int16_t>(HIWORD(packed))};
+}
+
+bool InBoardView(HWND window, POINT point) {
+    RECT view;
+    GetClientRect(window, &view);
+    view.bottom -= BottomReserve;
+    return PtInRect(&view, point) != FALSE;
+}
+
+// The left outline of the board and everything beside it is no part of a small board.
+bool OnBoard(POINT point) {
+    return point.x > BoardLeft && point.x < BoardLeft + PuzzleWidth * CellSize && point.y > 0 &&
+           point.y <= PuzzleHeight * CellSize;
+}
+
+// False when nothing was tapped.
+bool TapBoard(HWND window, UINT message, WPARAM buttons, LPARAM point) {
+    if (Magnification.Small == 1) {
+        if (!OnBoard(SignedPoint(point))) {
+            return false;
+        }
+        HandleBoardTap(window, message, buttons, point);
+    } else {
+        HandleBoardTap(window, message, buttons, point);
+        ScrollIntoView();
+    }
+    return true;
+}
+
+bool IsTapAndHold(HWND window, LPARAM point) {
+    SHRGINFO gesture;
+    gesture.cbSize = sizeof gesture;
+    gesture.hwndClient = window;
+    gesture.ptDown = {LOWORD(static_cast<WPARAM>(point)), HIWORD(static_cast<WPARAM>(point))};
+    gesture.dwFlags = SHRG_RETURNCMD;
+    return SHRecognizeGesture(&gesture) == GN_CONTEXTMENU;
+}
+
+void HandleTapAndHold(HWND window, WPARAM buttons, LPARAM point) {
+    StylusNow = SignedPoint(point);
+    TapHoldActive = 1;
+    if (InBoardView(window, StylusNow)) {
+        TapBoard(window, WM_LBUTTONDOWN, buttons, point);
+    }
+    TapHoldActive = 0;
+    CopyViewToScreen(window);
+}
+
+}  // namespace
+
+void HandlePenDown(HWND window, WPARAM buttons, LPARAM point) {
+    if (IsTapAndHold(window, point)) {
+        HandleTapAndHold(window, buttons, point);
+    }
+    StylusLast = SignedPoint(point);
+}
+
+void HandlePenMove(HWND window, LPARAM point) {
+    StylusNow = SignedPoint(point);
+    if (BoardExceedsView(window) && InBoardView(window, StylusNow)) {
+        DragScroll(window);
+    }
+}
+
+void HandlePenUp(HWND window, WPARAM buttons, LPARAM point) {
+    StylusNow = SignedPoint(point);
+    if (InBoardView(window, StylusNow) && TapBoard(window, WM_LBUTTONUP, buttons, point)) {
+        CopyViewToScreen(window);
+    }
+}

@@ -1,0 +1,37 @@
+#include "board/cell_drawing.h"
+
+#include "board/board_painter.h"
+#include "board/cell_geometry.h"
+#include "model/puzzle.h"
+#include "platform/text.h"
+#include "play/settings.h"
+
+void DrawCellSquare(HDC context, int row, int col) {
+    const RECT square = OutlineSquare(row, col);
+    Rectangle(context, square.left, square.top, square.right, square.bottom);
+}
+
+void DrawCellLetter(HDC context, int row, int col, char letter) {
+    if (letter == 0) {
+        return;
+    }
+    const std::u16string text = WidenText({&letter, 1});
+    RECT box = LetterBox(row, col);
+    const Selected font(context, LetterFont);
+    DrawTextW(context, text.c_str(), 1, &box, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+bool NumbersShown() {
+    return ShowNumbers == 1 && (Magnification.Medium == 1 || Magnification.Large == 1);
+}
+
+void DrawCellNumber(HDC context, int row, int col) {
+    const int number = Cells[row * PuzzleWidth + col].clueNumber;
+    if (!NumbersShown() || number == 0 || number == -1) {
+        return;
+    }
+    const std::u16string text = DecimalText(number);
+    RECT box = NumberBox(row, col);
+    const Selected font(context, NumberFont);
+    DrawTextW(context, text.c_str(), -1, &box, DT_SINGLELINE);
+}

@@ -1,0 +1,43 @@
+#include "board/word_highlight.h"
+
+#include "app/view.h"
+#include "board/cell_drawing.h"
+#include "board/selected_word.h"
+#include "platform/drawing.h"
+
+namespace {
+
+void DrawWordLetters(HDC context) {
+    ForEachCellOfWord([context](int row, int col) {
+        const char letter = PlayerGrid[row * PuzzleWidth + col];
+        if (letter != emptyCell) {
+            DrawCellLetter(context, row, col, letter);
+        }
+        DrawCellNumber(context, row, col);
+    });
+}
+
+}  // namespace
+
+void FillWordCells(HDC context) {
+    const Owned wordBrush(CreateSolidBrush(WordColor));
+    const Owned cellBrush(CreateSolidBrush(SelectedCellColor));
+    const Owned outlinePen(CreatePen(PS_SOLID, 1, RGB(0, 0, 0)));
+    const Selected pen(context, outlinePen);
+    if (!SelectionIsBlack()) {
+        const Selected brush(context, wordBrush);
+        ForEachCellOfWord([context](int row, int col) { DrawCellSquare(context, row, col); });
+    }
+    const Selected brush(context, cellBrush);
+    DrawCellSquare(context, CursorRow, CursorCol);
+}
+
+void PaintWordHighlight(HWND window) {
+    const PaintBracket bracket(window);
+    HDC context = OffscreenBuffer.context;
+    FillWordCells(context);
+    SetBkMode(context, TRANSPARENT);
+    if (!SelectionIsBlack()) {
+        DrawWordLetters(context);
+    }
+}

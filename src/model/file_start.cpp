@@ -1,0 +1,22 @@
+#include "model/file_start.h"
+
+#include "platform/files.h"
+
+int ReadFileStart(const WCHAR* path, std::span<char> buffer) {
+    HANDLE file =
+        CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return -1;
+    }
+    std::size_t total = 0;
+    DWORD count = 1;
+    bool readable = true;
+    while (readable && count > 0 && total < buffer.size()) {
+        count = 0;
+        const DWORD wanted = static_cast<DWORD>(buffer.size() - total);
+        readable = ReadFile(file, buffer.data() + total, wanted, &count, nullptr);
+        total += count;
+    }
+    CloseHandle(file);
+    return readable ? static_cast<int>(total) : -1;
+}

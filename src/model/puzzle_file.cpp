@@ -1,0 +1,64 @@
+#include <array>
+#include <cstring>
+
+#include "model/file_start.h"
+#include "model/numbering.h"
+#include "model/path_buffer.h"
+#include "model/puzzle.h"
+#include "platform/dialogs.h"
+
+namespace {
+
+// A file is judged here before it takes the place of the puzzle in play.
+struct Candidate {
+    std::array<char, puzzleImageSize> bytes{};
+    int length = -1;  // -1 when the file could not be opened
+
+    explicit Candidate(const WCHAR* path) : length(ReadFileStart(path, bytes)) {
+    }
+    int Width() const {
+        return static_cast<signed char>(bytes[widthOffset]);
+    }
+    int Height() const {
+        return static_cast<signed char>(bytes[heightOffset]);
+    }
+    // Both sizes are at most 127, so the products do not overflow.
+    bool HoldsGrids() const {
+        return length >= gridOffset && Width() >= 0 && Height() >= 0 &&
+               Width() * Height() <= maxCells && length >= gridOffset + 2 * Width() * Height();
+    }
+    bool IsPlayable() const {
+        if (!HoldsGrids()) {
+            return false;
+        }
+        const WordCount words = CountWords(bytes.data() + gridOffset, Width(), Height());
+        return words.across <= maxWords && words.down <= maxWords &&
+               words.across + words.down <= maxClues;
+    }
+};
+
+}  // namespace
+
+bool ReadPuzzleFile(WCHAR* path) {
+    const Candidate candidate(path);
+    if (candidate.IsPlayable()) {
+        std::memcpy(PuzzleImage, candidate.bytes.data(), candidate.bytes.size());
+        return true;
+    }
+    CopyPath(u"Could not open the file", path);
+    if (candidate.length >= 0) {
+        MessageBoxW(nullptr, u"This file is not a puzzle that Quadrel can open.", u"Open File",
+                    MB_OK);
+    }
+    return false;
+}
+
+bool PeekPuzzleSize(const WCHAR* path, int* width, int* height) {
+    const Candidate candidate(path);
+    if (!candidate.IsPlayable()) {
+        return false;
+    }
+    *width = candidate.Width();
+    *height = candidate.Height();
+    return true;
+}

@@ -1,0 +1,21 @@
+// The choosers that the handheld offers to every program.
+#pragma once
+
+#include "platform/types.h"
+
+constexpr DWORD OFN_EXPLORER = 0x00080000;
+
+struct OPENFILENAMEW {
+    HWND hwndOwner = nullptr;
+    const WCHAR* lpstrFilter = nullptr;  // pairs of name and pattern, ended by an empty string
+    WCHAR* lpstrFile = nullptr;          // the full device path
+    DWORD nMaxFile = 0;                  // in characters
+    WCHAR* lpstrFileTitle = nullptr;     // the bare file name
+    DWORD nMaxFileTitle = 0;
+    const WCHAR* lpstrTitle = nullptr;
+    DWORD Flags = 0;
+};
+
+// FALSE when the player cancelled; the buffers are then unchanged. A name that has no device path
+// (a backslash in it, or more than 259 characters) is explained to the player, who chooses again.
+BOOL GetOpenFileNameW(OPENFILENAMEW* request);

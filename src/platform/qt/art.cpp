@@ -1,0 +1,39 @@
+#include "platform/qt/art.h"
+
+#include <QtGui/QPainter>
+#include <QtSvg/QSvgRenderer>
+#include <map>
+#include <tuple>
+
+namespace {
+
+using ArtKey = std::tuple<QString, int, int>;
+
+QImage RenderFile(const QString& path, QSize size) {
+    QSvgRenderer renderer(path);
+    if (!renderer.isValid() || size.isEmpty()) {
+        return {};
+    }
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter, QRectF(QPointF(), QSizeF(size)));
+    return image;
+}
+
+}  // namespace
+
+const QImage& RenderArt(const char* file, QSize size) {
+    // A window that is being resized asks for many sizes; the last few dozen are enough.
+    constexpr size_t mostKept = 64;
+    static std::map<ArtKey, QImage> rendered;
+    const ArtKey key(QString::fromLatin1(file), size.width(), size.height());
+    auto found = rendered.find(key);
+    if (found == rendered.end()) {
+        if (rendered.size() >= mostKept) {
+            rendered.clear();
+        }
+        found = rendered.emplace(key, RenderFile(":/art/" + std::get<0>(key), size)).first;
+    }
+    return found->second;
+}

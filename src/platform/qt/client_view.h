@@ -1,0 +1,36 @@
+// The widget that shows one window of the program and turns the host's input into its messages.
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+#include "platform/types.h"
+
+class HostWindow;
+
+class ClientView : public QWidget {
+    Q_OBJECT
+
+public:
+    ClientView(HostWindow* host, HWND window);
+
+    HWND ShownWindow() const {
+        return window;
+    }
+    void ShowArea(const RECT& area);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
+private:
+    POINT ClientPoint(const QMouseEvent* event) const;
+
+    HostWindow* host;
+    HWND window;
+};

@@ -1,0 +1,25 @@
+// Message boxes: the toolkit's own, sized with the screen.
+#include "platform/dialogs.h"
+
+#include <QtWidgets/QMessageBox>
+#include <string>
+
+#include "platform/qt/host_window.h"
+#include "platform/qt/modal.h"
+
+int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
+    const bool question = (style & MB_YESNO) != 0;
+    QMessageBox box(&Host());
+    box.setWindowTitle(QString::fromUtf16(title));
+    // Titles of puzzles and file names come from elsewhere and are never markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromUtf16(text));
+    box.setIcon((style & MB_ICONQUESTION) != 0 ? QMessageBox::Question : QMessageBox::Information);
+    box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
+    const int answer = RunModal(box);
+    if (!question) {
+        return IDOK;
+    }
+    return answer == QMessageBox::Yes ? IDYES : IDNO;
+}

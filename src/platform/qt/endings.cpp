@@ -1,0 +1,92 @@
+#include "platform/qt/endings.h"
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QtCore/QSocketNotifier>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QApplication>
+#include <csignal>
+#include <cstdlib>
+
+#include "platform/qt/message_queue.h"
+#include "platform/qt/window.h"
+
+namespace {
+
+// A signal handler may do little more than write a byte; the event loop reads it.
+int signalPair[2] = {-1, -1};
+
+void OnSignal(int) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = write(signalPair[0], &byte, 1);
+}
+
+void WatchSignals() {
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, signalPair) != 0) {
+        return;
+    }
+    auto* notifier = new QSocketNotifier(signalPair[1], QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, [] {
+        char bytes[16];
+        [[maybe_unused]] const auto count = read(signalPair[1], bytes, sizeof bytes);
+        AskProgramToEnd();
+    });
+    struct sigaction action = {};
+    action.sa_handler = OnSignal;
+    action.sa_flags = SA_RESTART;
+    for (int number : {SIGTERM, SIGINT, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+    }
+}
+
+void CloseNow() {
+    if (HWND window = TopWindow()) {
+        SendMessageW(window, WM_CLOSE, 0, 0);
+    }
+}
+
+// The session waits for no queue: what is not written when this returns may be lost.
+void EndWithSession() {
+    if (InsideProcedure()) {
+        AskProgramToEnd();
+    } else {
+        CloseNow();
+    }
+}
+
+void CloseEverythingAbove() {
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) {
+            break;
+        }
+    }
+    while (QWidget* modal = QApplication::activeModalWidget()) {
+        if (!modal->close()) {
+            break;
+        }
+    }
+}
+
+}  // namespace
+
+void WatchForEndings() {
+    WatchSignals();
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, EndWithSession,
+                     Qt::DirectConnection);
+    // When the display server goes away the toolkit calls exit() from inside the event loop.
+    std::atexit(CloseNow);
+}
+
+void AskProgramToEnd() {
+    CloseEverythingAbove();
+    PostMessageW(TopWindow(), WM_CLOSE, 0, 0);
+}
+
+void TellProgramMinimized() {
+    if (InsideProcedure()) {
+        AskProgramToEnd();
+    } else {
+        SendMessageW(TopWindow(), WM_SIZE, SIZE_MINIMIZED, 0);
+    }
+}

@@ -1,0 +1,192 @@
+#include "platform/qt/host_window.h"
+
+#include <QtCore/QtMath>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
+#include <QtGui/QScreen>
+#include <algorithm>
+
+#include "platform/qt/art.h"
+#include "platform/qt/client_view.h"
+#include "platform/qt/endings.h"
+#include "platform/qt/icon_object.h"
+#include "platform/qt/look.h"
+#include "platform/qt/menu_bar.h"
+#include "platform/qt/message_queue.h"
+#include "platform/qt/soft_input_panel.h"
+#include "platform/qt/title_bar.h"
+#include "platform/qt/window.h"
+#include "platform/shell.h"
+
+namespace {
+
+HWND MenuBarHandle() {
+    static Window handle;
+    return &handle;
+}
+
+void Place(QWidget* widget, const QRectF& exact) {
+    widget->setGeometry(exact.toAlignedRect());
+}
+
+}  // namespace
+
+HostWindow& Host() {
+    // Outlives the application's own clean-up, since the program may still end windows then.
+    static auto* host = new HostWindow;
+    return *host;
+}
+
+bool IsMenuBar(HWND window) {
+    return window == MenuBarHandle();
+}
+
+HostWindow::HostWindow()
+    : titleBar(new TitleBar(this)),
+      menuBar(new MenuBarWidget(this)),
+      panel(new SoftInputPanel(this)) {
+    setMinimumSize(screenWidth, screenHeight);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    menuBar->hide();
+    panel->hide();
+    resize(StartSize());
+}
+
+// The largest whole magnification that leaves the desktop around it in sight; a screen that is
+// not much larger than the handheld's is taken whole.
+QSize HostWindow::StartSize() const {
+    const QSize desktop = QGuiApplication::primaryScreen()->availableSize();
+    constexpr double most = 0.9;
+    const double fit =
+        std::min(desktop.width() * most / screenWidth, desktop.height() * most / screenHeight);
+    if (fit < 1) {
+        return desktop.expandedTo(minimumSize());
+    }
+    return QSize(screenWidth, screenHeight) * static_cast<int>(fit);
+}
+
+QWidget* HostWindow::AddClientView(HWND window) {
+    auto* view = new ClientView(this, window);
+    view->stackUnder(panel);
+    Place(view, ExactPlace(window->frame));
+    return view;
+}
+
+QRectF HostWindow::ExactPlace(const RECT& area) const {
+    const double ratio = devicePixelRatioF();
+    const QRect device = Scale{magnification * ratio}.Area(area);
+    return QRectF(screenOrigin + QPointF(device.topLeft()) / ratio, QSizeF(device.size()) / ratio);
+}
+
+POINT HostWindow::LogicalPoint(QPointF point) const {
+    const QPointF logical = (point - screenOrigin) / magnification;
+    return {qFloor(logical.x()), qFloor(logical.y())};
+}
+
+void HostWindow::SetLook(const std::u16string& title, HICON icon) {
+    const QString text = QString::fromStdU16String(title);
+    setWindowTitle(text);
+    titleBar->SetTitle(text);
+    if (icon != nullptr) {
+        setWindowIcon(ToQIcon(icon));
+    }
+}
+
+void HostWindow::ShowIfHidden() {
+    if (!isVisible()) {
+        FitScreen();
+        show();
+    }
+}
+
+void HostWindow::ComeForward() {
+    if (isMinimized()) {
+        showNormal();
+    }
+    raise();
+    activateWindow();
+}
+
+void HostWindow::FitScreen() {
+    const double ratio = devicePixelRatioF();
+    magnification = std::min(width() / double(screenWidth), height() / double(screenHeight));
+    const QSizeF screen(screenWidth * magnification, screenHeight * magnification);
+    // On a whole device pixel, so that nothing on the screen is blurred.
+    screenOrigin = QPointF(qFloor((width() - screen.width()) / 2 * ratio) / ratio,
+                           qFloor((height() - screen.height()) / 2 * ratio) / ratio);
+    Surface::SetRatioOfAll(magnification * ratio);
+    PlaceWidgets();
+}
+
+void HostWindow::PlaceWidgets() {
+    Place(titleBar, ExactPlace(titleBarArea));
+    Place(menuBar, ExactPlace(menuBarArea));
+    Place(panel, ExactPlace(softInputPanelArea));
+    for (ClientView* view : findChildren<ClientView*>(Qt::FindDirectChildrenOnly)) {
+        Place(view, ExactPlace(view->ShownWindow()->frame));
+    }
+    update();
+}
+
+HWND HostWindow::OpenMenuBar(HWND owner, HINSTANCE instance, int id) {
+    if (menuBar->IsOpen() || !menuBar->Open(owner, instance, id)) {
+        return nullptr;
+    }
+    menuBar->show();
+    return MenuBarHandle();
+}
+
+void HostWindow::CloseMenuBar() {
+    menuBar->Close();
+    menuBar->hide();
+}
+
+bool HostWindow::PanelUp() const {
+    return panel->isVisibleTo(this);
+}
+
+void HostWindow::SetPanelUp(bool up) {
+    if (up == PanelUp()) {
+        return;
+    }
+    panel->setVisible(up);
+    menuBar->ShowPanelState(up);
+    SendMessageW(TopWindow(), WM_SETTINGCHANGE, SPI_SETSIPINFO, 0);
+}
+
+void HostWindow::ShowPanelButton(bool shown) {
+    menuBar->ShowPanelButton(shown);
+}
+
+void HostWindow::resizeEvent(QResizeEvent*) {
+    FitScreen();
+}
+
+void HostWindow::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), letterboxColor);
+    painter.fillRect(ExactPlace({0, 0, screenWidth, screenHeight}), Qt::white);
+}
+
+// The window closes when the program destroys it, after everything is saved.
+void HostWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    AskProgramToEnd();
+}
+
+void HostWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        TellProgramMinimized();
+    }
+    QWidget::changeEvent(event);
+}
+
+bool HostWindow::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    // Moving to a screen of another density changes the ratio without a resize.
+    if (event->type() == QEvent::ScreenChangeInternal) {
+        FitScreen();
+    }
+    return handled;
+}

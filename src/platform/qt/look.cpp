@@ -1,0 +1,11 @@
+#include "platform/qt/look.h"
+
+#include <algorithm>
+
+QFont BarFont(double pixelSize, bool bold) {
+    QFont font;
+    font.setFamilies({"Liberation Sans", "Arial", "Noto Sans", "DejaVu Sans", "sans-serif"});
+    font.setPixelSize(std::max(qRound(pixelSize), 1));
+    font.setBold(bold);
+    return font;
+}

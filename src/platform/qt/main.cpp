@@ -1,0 +1,22 @@
+// The process: brings the handheld up, then runs the program on it.
+#include <QtWidgets/QApplication>
+
+#include "platform/qt/endings.h"
+#include "platform/qt/first_start.h"
+#include "platform/resources.h"
+#include "platform/windows.h"
+
+int main(int argumentCount, char** arguments) {
+    // A whole device pixel ratio leaves every edge on a device pixel; the screen's own
+    // magnification takes care of the rest.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::Round);
+    QApplication application(argumentCount, arguments);
+    QApplication::setApplicationName("Quadrel");
+    QApplication::setDesktopFileName("quadrel");
+    QApplication::setQuitOnLastWindowClosed(false);
+    WatchForEndings();
+    PrepareFolders();
+    WCHAR commandLine[] = u"";
+    return WinMain(&programResources, nullptr, commandLine, SW_SHOW);
+}

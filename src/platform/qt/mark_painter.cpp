@@ -1,0 +1,120 @@
+#include "platform/qt/mark_painter.h"
+
+#include <QtGui/QPen>
+
+#include "platform/qt/art.h"
+#include "platform/qt/text_painter.h"
+
+namespace {
+
+class MarkPainter {
+public:
+    MarkPainter(QPainter& to, const Scale& at) : painter(to), scale(at) {
+    }
+
+    void operator()(const FillMark& mark) const {
+        painter.fillRect(scale.Area(mark.area), QColor::fromRgb(mark.color));
+    }
+    void operator()(const FrameMark& mark) const;
+    void operator()(const LineMark& mark) const;
+    void operator()(const TextMark& mark) const {
+        PaintText(painter, scale, mark);
+    }
+    void operator()(const ArtMark& mark) const {
+        const QRect area = scale.Area(mark.area);
+        painter.drawImage(area.topLeft(), RenderArt(mark.file, area.size()));
+    }
+    void operator()(const CopyMark& mark) const;
+
+private:
+    void PaintRoundFrame(const FrameMark& mark, const QRect& outer) const;
+
+    QPainter& painter;
+    const Scale& scale;
+};
+
+// From the first to the last logical pixel, each as thick as a line: neighbouring frames that
+// share an outline then share it in device pixels too.
+QRect OuterArea(const Scale& scale, const RECT& area) {
+    const int beyond = scale.LineThickness() - 1;
+    return QRect(QPoint(scale.At(area.left), scale.At(area.top)),
+                 QPoint(scale.At(area.right - 1) + beyond, scale.At(area.bottom - 1) + beyond));
+}
+
+void MarkPainter::operator()(const FrameMark& mark) const {
+    if (mark.area.right <= mark.area.left || mark.area.bottom <= mark.area.top) {
+        return;
+    }
+    const QRect outer = OuterArea(scale, mark.area);
+    if (!mark.corner.isEmpty()) {
+        PaintRoundFrame(mark, outer);
+    } else if (mark.outline == mark.fill) {
+        painter.fillRect(scale.Area(mark.area), QColor::fromRgb(mark.fill));
+    } else {
+        const int thickness = scale.LineThickness();
+        const QColor outline = QColor::fromRgb(mark.outline);
+        painter.fillRect(outer.left(), outer.top(), outer.width(), thickness, outline);
+        painter.fillRect(outer.left(), outer.bottom() + 1 - thickness, outer.width(), thickness,
+                         outline);
+        painter.fillRect(outer.left(), outer.top(), thickness, outer.height(), outline);
+        painter.fillRect(outer.right() + 1 - thickness, outer.top(), thickness, outer.height(),
+                         outline);
+        painter.fillRect(outer.adjusted(thickness, thickness, -thickness, -thickness),
+                         QColor::fromRgb(mark.fill));
+    }
+}
+
+void MarkPainter::PaintRoundFrame(const FrameMark& mark, const QRect& outer) const {
+    const int thickness = scale.LineThickness();
+    const double half = thickness / 2.0;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPen pen(QColor::fromRgb(mark.outline), thickness);
+    painter.setPen(pen);
+    painter.setBrush(QColor::fromRgb(mark.fill));
+    painter.drawRoundedRect(QRectF(outer).adjusted(half, half, -half, -half),
+                            mark.corner.width() * scale.ratio / 2,
+                            mark.corner.height() * scale.ratio / 2);
+    painter.restore();
+}
+
+void MarkPainter::operator()(const LineMark& mark) const {
+    if (mark.area.right > mark.area.left && mark.area.bottom > mark.area.top) {
+        painter.fillRect(OuterArea(scale, mark.area), QColor::fromRgb(mark.color));
+    }
+}
+
+void MarkPainter::operator()(const CopyMark& mark) const {
+    const QSize size = mark.picture->size;
+    QImage source(scale.At(size.width()), scale.At(size.height()), QImage::Format_RGB32);
+    source.fill(Qt::white);
+    QPainter sourcePainter(&source);
+    PaintPicture(sourcePainter, scale, *mark.picture);
+    sourcePainter.end();
+    CopyPixels(painter, scale, mark.area, source, mark.source);
+}
+
+}  // namespace
+
+void PaintMark(QPainter& painter, const Scale& scale, const Mark& mark) {
+    std::visit(MarkPainter(painter, scale), mark);
+}
+
+void PaintPicture(QPainter& painter, const Scale& scale, const Picture& picture) {
+    for (const Mark& mark : picture.marks) {
+        PaintMark(painter, scale, mark);
+    }
+}
+
+void CopyPixels(QPainter& painter, const Scale& scale, const RECT& area, const QImage& from,
+                POINT source) {
+    const QRect target = scale.Area(area);
+    const QRect wanted(QPoint(scale.At(source.x), scale.At(source.y)), target.size());
+    const QRect usable = wanted & from.rect();
+    if (usable != wanted) {
+        painter.fillRect(target, Qt::white);
+    }
+    if (!usable.isEmpty()) {
+        painter.drawImage(target.topLeft() + usable.topLeft() - wanted.topLeft(), from, usable);
+    }
+}

@@ -1,0 +1,56 @@
+// The bar at the bottom of the screen: the program's buttons and the soft input panel's.
+#pragma once
+
+#include <QtWidgets/QAbstractButton>
+#include <vector>
+
+#include "platform/resources.h"
+
+class HostWindow;
+
+class BarButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    BarButton(QWidget* bar, HostWindow* host, const ArtResource* art);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    HostWindow* host;
+    const ArtResource* art;
+};
+
+class MenuBarWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MenuBarWidget(HostWindow* host);
+
+    // False when the instance has no menu bar of that number.
+    bool Open(HWND owner, HINSTANCE instance, int id);
+    void Close();
+    bool IsOpen() const {
+        return owner != nullptr;
+    }
+
+    void ShowPanelButton(bool shown);
+    void ShowPanelState(bool up);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void AddButton(const MenuBarButton& button, HINSTANCE instance);
+    void AddPanelButton();
+    void PlaceButtons();
+
+    HostWindow* host;
+    HWND owner = nullptr;
+    std::vector<BarButton*> buttons;
+    BarButton* panelButton = nullptr;
+};

@@ -1,0 +1,12 @@
+#include "platform/qt/modal.h"
+
+#include <QtWidgets/QDialog>
+
+#include "platform/qt/host_window.h"
+#include "platform/qt/look.h"
+
+int RunModal(QDialog& dialog) {
+    constexpr double em = 10;
+    dialog.setFont(BarFont(em * Host().Magnification(), false));
+    return dialog.exec();
+}

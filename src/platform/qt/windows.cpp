@@ -1,0 +1,224 @@
+// Window classes and windows.
+//
+// Supported: top-level windows at a place on the handheld's screen. Left out: child windows,
+// regions, z-order beyond "the newest is on top", background erasing (a new surface is white).
+#include "platform/windows.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <algorithm>
+#include <map>
+#include <vector>
+
+#include "platform/qt/client_view.h"
+#include "platform/qt/host_window.h"
+#include "platform/qt/message_queue.h"
+#include "platform/qt/screen_layout.h"
+#include "platform/qt/single_instance.h"
+#include "platform/qt/window.h"
+
+namespace {
+
+std::map<std::u16string, WNDCLASSW> classes;
+
+// In the order of creation: the last one is on top.
+std::vector<HWND> windows;
+
+ATOM lastAtom = 0;
+
+RECT StartFrame(int x, int y, int width, int height) {
+    const int left = x == CW_USEDEFAULT ? 0 : x;
+    const int top = y == CW_USEDEFAULT ? titleBarHeight : y;
+    return {left, top, left + width, top + height};
+}
+
+int Width(const RECT& frame) {
+    return frame.right - frame.left;
+}
+
+int Height(const RECT& frame) {
+    return frame.bottom - frame.top;
+}
+
+HWND OpenWindow(const WNDCLASSW& windowClass, const WCHAR* title, const RECT& frame) {
+    auto* window = new Window;
+    window->className = windowClass.lpszClassName;
+    window->title = title;
+    window->procedure = windowClass.lpfnWndProc;
+    window->frame = frame;
+    window->surface = std::make_unique<Surface>(Width(frame), Height(frame));
+    window->widget = Host().AddClientView(window);
+    windows.push_back(window);
+    return window;
+}
+
+void ForgetWindow(HWND window) {
+    windows.erase(std::find(windows.begin(), windows.end(), window));
+    DropMessagesOf(window);
+    delete window->widget;
+    delete window;
+}
+
+}  // namespace
+
+bool IsLiveWindow(HWND window) {
+    return std::find(windows.begin(), windows.end(), window) != windows.end();
+}
+
+HWND TopWindow() {
+    return windows.empty() ? nullptr : windows.back();
+}
+
+Surface* SurfaceOf(HWND window) {
+    return IsLiveWindow(window) ? window->surface.get() : nullptr;
+}
+
+void ShowSoon(HWND window, const RECT& area) {
+    if (auto* view = qobject_cast<ClientView*>(window->widget.data())) {
+        view->ShowArea(area);
+    }
+}
+
+void ValidateWindow(HWND window) {
+    if (IsLiveWindow(window)) {
+        window->paintDue = false;
+    }
+}
+
+void PaintIfDue(HWND window) {
+    if (IsLiveWindow(window) && window->visible && window->paintDue) {
+        window->paintDue = false;
+        SendMessageW(window, WM_PAINT, 0, 0);
+    }
+}
+
+void PaintAllDue() {
+    const std::vector<HWND> present = windows;
+    for (HWND window : present) {
+        PaintIfDue(window);
+    }
+}
+
+void MoveWindow(HWND window, const RECT& frame) {
+    const bool resized =
+        Width(frame) != Width(window->frame) || Height(frame) != Height(window->frame);
+    window->frame = frame;
+    if (resized) {
+        window->surface->Resize(Width(frame), Height(frame));
+    }
+    Host().PlaceWidgets();
+    if (resized) {
+        SendMessageW(window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(Width(frame), Height(frame)));
+    }
+}
+
+void SetActive(HWND window, bool active) {
+    if (IsLiveWindow(window) && window->active != active) {
+        window->active = active;
+        SendMessageW(window, WM_ACTIVATE, active ? WA_ACTIVE : WA_INACTIVE, 0);
+    }
+}
+
+ATOM RegisterClassW(const WNDCLASSW* windowClass) {
+    if (windowClass->lpszClassName == nullptr || windowClass->lpfnWndProc == nullptr) {
+        return 0;
+    }
+    const std::u16string name = windowClass->lpszClassName;
+    classes[name] = *windowClass;
+    classes[name].lpszClassName = classes.find(name)->first.c_str();
+    return ++lastAtom;
+}
+
+HWND CreateWindowExW(DWORD, const WCHAR* className, const WCHAR* title, DWORD style, int x, int y,
+                     int width, int height, HWND, HMENU, HINSTANCE, void*) {
+    const auto windowClass = classes.find(className);
+    if (windowClass == classes.end()) {
+        return nullptr;
+    }
+    HWND window = OpenWindow(windowClass->second, title, StartFrame(x, y, width, height));
+    Host().SetLook(window->title, windowClass->second.hIcon);
+    SendMessageW(window, WM_CREATE, 0, 0);
+    if (IsLiveWindow(window) && (style & WS_VISIBLE) != 0) {
+        ShowWindow(window, SW_SHOW);
+    }
+    return IsLiveWindow(window) ? window : nullptr;
+}
+
+BOOL DestroyWindow(HWND window) {
+    if (IsMenuBar(window)) {
+        Host().CloseMenuBar();
+        return TRUE;
+    }
+    if (!IsLiveWindow(window)) {
+        return FALSE;
+    }
+    SendMessageW(window, WM_DESTROY, 0, 0);
+    if (IsLiveWindow(window)) {
+        ForgetWindow(window);
+    }
+    if (windows.empty()) {
+        Host().hide();
+    }
+    return TRUE;
+}
+
+BOOL ShowWindow(HWND window, int showCommand) {
+    if (!IsLiveWindow(window)) {
+        return FALSE;
+    }
+    const bool wasVisible = window->visible;
+    window->visible = showCommand != SW_HIDE;
+    window->paintDue |= window->visible && !wasVisible;
+    if (window->widget != nullptr) {
+        window->widget->setVisible(window->visible);
+    }
+    if (window->visible && !wasVisible) {
+        Host().ShowIfHidden();
+        window->widget->setFocus();
+        SetActive(window, true);
+    }
+    return wasVisible;
+}
+
+BOOL UpdateWindow(HWND window) {
+    PaintIfDue(window);
+    ShowNow();
+    return IsLiveWindow(window);
+}
+
+BOOL GetClientRect(HWND window, RECT* rectangle) {
+    if (!IsLiveWindow(window)) {
+        return FALSE;
+    }
+    *rectangle = {0, 0, Width(window->frame), Height(window->frame)};
+    return TRUE;
+}
+
+HWND FindWindowW(const WCHAR* className, const WCHAR* title) {
+    for (HWND window : windows) {
+        if (window->className == className && window->title == title) {
+            return window;
+        }
+    }
+    return ClaimInstance(className) ? nullptr : OtherInstance();
+}
+
+BOOL SetForegroundWindow(HWND window) {
+    // The lowest bit asks for the windows it owns, too; on one screen they come along anyway.
+    auto* plain =
+        reinterpret_cast<HWND>(reinterpret_cast<std::uintptr_t>(window) & ~std::uintptr_t{1});
+    if (plain == OtherInstance()) {
+        return AskOtherInstanceForward();
+    }
+    if (!IsLiveWindow(plain)) {
+        return FALSE;
+    }
+    Host().ComeForward();
+    SetActive(plain, true);
+    return TRUE;
+}
+
+void ShowNow() {
+    Host().repaint();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
+}

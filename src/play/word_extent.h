@@ -1,0 +1,24 @@
+// Where words lie on the board, and the selected one.
+#pragma once
+
+// Columns of the cell's row across, rows of its column down.
+struct WordExtent {
+    int first = 0;
+    int last = 0;
+};
+
+// True when the cell is one of the puzzle's, and so inside the model's arrays.
+bool IsOnBoard(int row, int col);
+
+// The index of the clue of the cell's word in that direction, 0 across or 1 down; -1 when the cell
+// has no word there or is off the board.
+int ClueIndexAt(int row, int col, int direction);
+
+// The cell itself when it has no word in that direction.
+WordExtent FindWordExtent(int row, int col, int direction);
+
+// The selected cell's index in the grids, 0 when the selection is off the board.
+int SelectedCell();
+
+// The selected cell's word in the current Direction.
+WordExtent FindSelectedExtent();

@@ -1,0 +1,16 @@
+// Where the program and the puzzle in play live on the device.
+#pragma once
+
+#include "model/path_buffer.h"
+#include "platform/types.h"
+
+// The folder of the program file, with its trailing backslash. Written by start-up.
+inline WCHAR ProgramFolder[MAX_PATH];
+
+// Full path of the puzzle in play, empty while there is none; a failed read at start-up leaves its
+// short text here. Written by start-up, LoadProgress and OpenPuzzleFile.
+inline WCHAR CurrentPuzzlePath[MAX_PATH];
+
+// The progress file beside a puzzle: the path with its last four characters replaced by ".dat".
+// False when there are fewer than four, or when it does not fit the buffer of 260 wide characters.
+bool ProgressFilePath(const WCHAR* puzzlePath, WCHAR* buffer);

@@ -1,0 +1,10 @@
+// The start and the end of a session: defaults, folders, the saved state, the last puzzle.
+#pragma once
+
+#include "platform/types.h"
+
+// Runs while the main window is being created. 1 when a puzzle was opened and parsed, else 0.
+int InitializeGame(HWND window);
+
+// Writes the state file into the program folder.
+void SaveState();

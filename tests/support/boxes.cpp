@@ -1,0 +1,88 @@
+#include "support/boxes.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <deque>
+#include <utility>
+
+#include "platform/dialogs.h"
+#include "support/message_boxes.h"
+
+namespace {
+
+std::deque<int> plannedAnswers;
+std::deque<std::filesystem::path> plannedFiles;
+std::vector<ShownMessage> shownMessages;
+
+QMessageBox::StandardButton ButtonFor(int answer) {
+    return answer == IDYES ? QMessageBox::Yes : answer == IDNO ? QMessageBox::No : QMessageBox::Ok;
+}
+
+template <typename Value>
+Value TakeNext(std::deque<Value>& planned, Value otherwise) {
+    if (planned.empty()) {
+        return otherwise;
+    }
+    Value next = planned.front();
+    planned.pop_front();
+    return next;
+}
+
+void Answer(QMessageBox* box) {
+    shownMessages.push_back({box->text().toStdU16String(), box->windowTitle().toStdU16String()});
+    const int answer = TakeNext(plannedAnswers, 0);
+    if (QAbstractButton* button = answer == 0 ? nullptr : box->button(ButtonFor(answer))) {
+        button->click();
+    } else {
+        box->close();
+    }
+}
+
+void Answer(QFileDialog* dialog) {
+    const std::filesystem::path file = TakeNext(plannedFiles, std::filesystem::path());
+    if (file.empty()) {
+        dialog->reject();
+        return;
+    }
+    dialog->selectFile(QString::fromStdString(file.string()));
+    // As a press of the button does, so that the chooser's own checks run.
+    QMetaObject::invokeMethod(dialog, "accept");
+}
+
+class BoxWatcher : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Show) {
+            if (auto* box = qobject_cast<QMessageBox*>(object)) {
+                QTimer::singleShot(0, box, [box] { Answer(box); });
+            } else if (auto* dialog = qobject_cast<QFileDialog*>(object)) {
+                QTimer::singleShot(0, dialog, [dialog] { Answer(dialog); });
+            }
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+void AnswerBoxes() {
+    QCoreApplication::instance()->installEventFilter(new BoxWatcher(QCoreApplication::instance()));
+}
+
+void AnswerNextMessageBox(int answer) {
+    plannedAnswers.push_back(answer);
+}
+
+std::vector<ShownMessage> TakeShownMessages() {
+    return std::exchange(shownMessages, {});
+}
+
+void ChooseNextFile(const std::filesystem::path& file) {
+    plannedFiles.push_back(file);
+}

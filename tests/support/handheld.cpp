@@ -1,0 +1,170 @@
+#include "support/handheld.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QInputMethodEvent>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QAbstractButton>
+
+#include "app/view.h"
+#include "app/win_main.h"
+#include "platform/qt/client_view.h"
+#include "platform/qt/host_window.h"
+#include "platform/qt/message_queue.h"
+#include "platform/qt/window.h"
+#include "resources/ids.h"
+#include "tools/puzzle_text.h"
+
+namespace {
+
+ClientView* MainView() {
+    return qobject_cast<ClientView*>(MainWindow->widget.data());
+}
+
+void SendMouse(QEvent::Type type, POINT client, Qt::MouseButton button, Qt::MouseButtons held) {
+    ClientView* view = MainView();
+    // The middle of the logical pixel, so that rounding cannot move it.
+    const double magnification = Host().Magnification();
+    const QPointF place((client.x + 0.5) * magnification, (client.y + 0.5) * magnification);
+    QMouseEvent event(type, place, view->mapToGlobal(place), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(view, &event);
+}
+
+void SendPress(POINT point) {
+    SendMouse(QEvent::MouseButtonPress, point, Qt::LeftButton, Qt::LeftButton);
+}
+
+void SendRelease(POINT point) {
+    SendMouse(QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton);
+}
+
+}  // namespace
+
+Handheld::Handheld(const TemporaryHome&, double magnification) {
+    Host().SetPanelUp(false);
+    Resize(magnification);
+    InitInstance(&programResources, SW_SHOW);
+    Settle();
+}
+
+Handheld::~Handheld() {
+    Close();
+}
+
+bool Handheld::Running() const {
+    return IsLiveWindow(MainWindow);
+}
+
+void Handheld::Close() {
+    if (Running()) {
+        Host().close();
+        Settle();
+    }
+}
+
+void Handheld::Settle() {
+    HACCEL accelerators = LoadAcceleratorsW(&programResources, acceleratorTable);
+    do {
+        QCoreApplication::processEvents();
+        while (MessagesWaiting()) {
+            MSG message;
+            GetMessageW(&message, nullptr, 0, 0);
+            if (!TranslateAcceleratorW(message.hwnd, accelerators, &message)) {
+                DispatchMessageW(&message);
+            }
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    } while (MessagesWaiting());
+}
+
+void Handheld::Tap(int x, int y) {
+    SendPress({x, y});
+    SendRelease({x, y});
+    Settle();
+}
+
+void Handheld::TapCell(int row, int col) {
+    Tap(BoardLeft - ScrollX + col * CellSize + CellSize / 2,
+        row * CellSize - ScrollY + CellSize / 2);
+}
+
+void Handheld::Hold(int x, int y) {
+    SendPress({x, y});
+    Settle();
+    SendRelease({x, y});
+    Settle();
+}
+
+void Handheld::RightClick(int x, int y) {
+    SendMouse(QEvent::MouseButtonPress, {x, y}, Qt::RightButton, Qt::RightButton);
+    SendMouse(QEvent::MouseButtonRelease, {x, y}, Qt::RightButton, Qt::NoButton);
+    Settle();
+}
+
+void Handheld::Drag(POINT from, POINT to) {
+    constexpr int steps = 10;
+    SendPress(from);
+    for (int step = 1; step <= steps; ++step) {
+        SendMouse(
+            QEvent::MouseMove,
+            {from.x + (to.x - from.x) * step / steps, from.y + (to.y - from.y) * step / steps},
+            Qt::NoButton, Qt::LeftButton);
+    }
+    SendRelease(to);
+    Settle();
+}
+
+void Handheld::Press(int key, Qt::KeyboardModifiers modifiers) {
+    const bool typed = key < 0x80 && modifiers == Qt::NoModifier;
+    const QString text = typed ? QString(QChar(key)).toLower() : QString();
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(MainView(), &press);
+    Settle();
+}
+
+void Handheld::Type(const std::string& text) {
+    for (char character : text) {
+        Press(character);
+    }
+}
+
+void Handheld::Commit(const QString& text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(MainView(), &event);
+    Settle();
+}
+
+bool Handheld::PressButton(const QString& tooltip) {
+    for (auto* button : Host().findChildren<QAbstractButton*>()) {
+        if (button->toolTip() == tooltip && button->isEnabled()) {
+            button->click();
+            Settle();
+            return true;
+        }
+    }
+    return false;
+}
+
+void Handheld::Resize(double magnification) {
+    Host().resize(qRound(screenWidth * magnification), qRound(screenHeight * magnification));
+    Settle();
+}
+
+QImage Handheld::Screen() {
+    return Host().grab().toImage();
+}
+
+COLORREF Handheld::Pixel(int x, int y) {
+    const QRgb color = MainWindow->surface->Image().pixel(x, y);
+    return RGB(qRed(color), qGreen(color), qBlue(color));
+}
+
+void PutPuzzle(const TemporaryHome& home, const std::string& name, const std::string& text) {
+    PuzzleTextError error;
+    const auto bytes = CompilePuzzle(text, error);
+    ASSERT_TRUE(bytes.has_value()) << name << ":" << error.line << ": " << error.reason;
+    WriteBytes(home.documents() / name, std::string(bytes->begin(), bytes->end()));
+}

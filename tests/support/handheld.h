@@ -1,0 +1,48 @@
+// The whole program on its handheld, driven as a person does: stylus, keys, buttons, eyes.
+#pragma once
+
+#include <QtGui/QImage>
+#include <string>
+
+#include "platform/types.h"
+#include "support/temporary_home.h"
+
+class Handheld {
+public:
+    // Starts the program with the screen at this magnification; its files are in the home.
+    explicit Handheld(const TemporaryHome& home, double magnification = 1);
+    // Ends the program as closing its window does.
+    ~Handheld();
+    Handheld(const Handheld&) = delete;
+    Handheld& operator=(const Handheld&) = delete;
+
+    bool Running() const;
+    void Close();
+
+    // Points are logical pixels of the main window's client area.
+    void Tap(int x, int y);
+    void TapCell(int row, int col);
+    void Hold(int x, int y);
+    void RightClick(int x, int y);
+    void Drag(POINT from, POINT to);
+
+    // A key of the host's keyboard, by the toolkit's number; letters and digits by their character.
+    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void Type(const std::string& text);
+    void Commit(const QString& inputMethodText);
+
+    // Presses the menu bar's button with that tooltip; false when there is none or it is disabled.
+    bool PressButton(const QString& tooltip);
+
+    void Resize(double magnification);
+    // Handles all input and messages that wait.
+    void Settle();
+
+    // The screen as the host shows it.
+    QImage Screen();
+    // A pixel of the main window's client area at magnification 1.
+    COLORREF Pixel(int x, int y);
+};
+
+// Starts, hands the puzzle to the home's documents first.
+void PutPuzzle(const TemporaryHome& home, const std::string& name, const std::string& text);

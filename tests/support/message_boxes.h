@@ -1,0 +1,23 @@
+// Answering the real message boxes and choosers of a program under test.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+struct ShownMessage {
+    std::u16string text;
+    std::u16string title;
+    bool operator==(const ShownMessage&) const = default;
+};
+
+// The answer (IDOK, IDYES, IDNO) for the next box that nobody has planned an answer for yet.
+// A box without a planned answer is closed like with Escape.
+void AnswerNextMessageBox(int answer);
+
+// All boxes shown since the last call.
+std::vector<ShownMessage> TakeShownMessages();
+
+// The file that the next file chooser is given; an empty path cancels it, and so does having
+// planned nothing.
+void ChooseNextFile(const std::filesystem::path& file);

@@ -1,0 +1,43 @@
+#include "support/temporary_home.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace fs = std::filesystem;
+
+TemporaryHome::TemporaryHome() {
+    std::string pattern = (fs::temp_directory_path() / "quadrel-test-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) {
+        throw std::runtime_error("no temporary folder can be made");
+    }
+    folder = pattern;
+    fs::create_directories(documents());
+    fs::create_directories(programFolder());
+    setenv("QUADREL_HOME", folder.c_str(), 1);
+}
+
+TemporaryHome::~TemporaryHome() {
+    unsetenv("QUADREL_HOME");
+    std::error_code ignored;
+    fs::remove_all(folder, ignored);
+}
+
+void WriteBytes(const fs::path& path, const std::string& bytes) {
+    std::ofstream file(path, std::ios::binary);
+    file << bytes;
+    if (!file.flush()) {
+        throw std::runtime_error("cannot write " + path.string());
+    }
+}
+
+std::string ReadBytes(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw std::runtime_error("cannot read " + path.string());
+    }
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}

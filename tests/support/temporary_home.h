@@ -1,0 +1,30 @@
+// A fresh home for the handheld's folders, gone at the end of the scope.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+class TemporaryHome {
+public:
+    // Sets QUADREL_HOME to a new folder that holds both of the handheld's folders, empty.
+    TemporaryHome();
+    ~TemporaryHome();
+    TemporaryHome(const TemporaryHome&) = delete;
+    TemporaryHome& operator=(const TemporaryHome&) = delete;
+
+    std::filesystem::path root() const {
+        return folder;
+    }
+    std::filesystem::path documents() const {
+        return folder / "Documents";
+    }
+    std::filesystem::path programFolder() const {
+        return folder / "quadrel";
+    }
+
+private:
+    std::filesystem::path folder;
+};
+
+void WriteBytes(const std::filesystem::path& path, const std::string& bytes);
+std::string ReadBytes(const std::filesystem::path& path);
