@@ -25,9 +25,11 @@ QSize UsableSize(int width, int height) {
 }  // namespace
 
 Surface::Surface(int width, int height)
-    : scale{ratioOfAll}, picture(std::make_shared<Picture>()), marksWorthDropping(fewMarks) {
+    : scale{ratioOfAll},
+      picture(std::make_shared<Picture>()),
+      marksWorthDropping(fewMarks),
+      changes(UsableSize(width, height)) {
     picture->size = UsableSize(width, height);
-    Remake();
     surfaces.insert(this);
 }
 
@@ -35,60 +37,52 @@ Surface::~Surface() {
     surfaces.erase(this);
 }
 
-void Surface::ClosePainter() const {
-    if (painter.isActive()) {
-        painter.end();
-    }
-}
-
-void Surface::Remake() {
-    ClosePainter();
-    const QSize size = picture->size;
-    image = QImage(std::max(scale.At(size.width()), 1), std::max(scale.At(size.height()), 1),
-                   QImage::Format_RGB32);
-    image.fill(Qt::white);
-    painter.begin(&image);
-    PaintPicture(painter, scale, *picture);
-}
-
 void Surface::Draw(Mark mark) {
-    if (!painter.isActive()) {
-        painter.begin(&image);
-    }
-    PaintMark(painter, scale, mark);
     Remember(std::move(mark));
 }
 
-void Surface::Copy(const RECT& area, const Surface& from, POINT source) {
-    if (!painter.isActive()) {
-        painter.begin(&image);
+// Copied at once: the source may be drawn on before this surface is looked at.
+void Surface::Copy(const RECT& area, Surface& from, POINT source) {
+    Render();
+    const QImage& pixels = from.Image();
+    {
+        QPainter painter(&image);
+        CopyPixels(painter, scale, area, pixels, source);
     }
-    CopyPixels(painter, scale, area, from.Image(), source);
     Remember(CopyMark{area, source, from.picture});
+    renderedMarks = picture->marks.size();
+    startedAnew = false;
+    changes.Accept();
 }
 
 void Surface::Remember(Mark mark) {
-    const bool hidesAll = Contains(HiddenArea(mark), WholeArea(picture->size));
-    if (hidesAll || picture.use_count() > 1) {
-        // A copy elsewhere still needs the marks as they were.
-        auto next = std::make_shared<Picture>();
-        next->size = picture->size;
-        next->marks.reserve(picture->marks.size() + 1);
-        if (!hidesAll) {
-            next->marks = picture->marks;
-        } else {
-            marksWorthDropping = fewMarks;
-        }
-        picture = std::move(next);
+    if (Contains(HiddenArea(mark), WholeArea(picture->size))) {
+        StartPicture({});
+        marksWorthDropping = fewMarks;
+        changes.Restart();
+        startedAnew = true;
+    } else if (picture.use_count() > 1) {
+        // A copy elsewhere still needs the marks as they are.
+        StartPicture(picture->marks);
     }
+    changes.Add(mark);
     picture->marks.push_back(std::move(mark));
     if (picture->marks.size() > marksWorthDropping) {
         DropHiddenMarks();
     }
 }
 
+void Surface::StartPicture(const std::vector<Mark>& marks) {
+    auto next = std::make_shared<Picture>();
+    next->size = picture->size;
+    next->marks.reserve(picture->marks.size() + 1);
+    next->marks = marks;
+    picture = std::move(next);
+}
+
 // A window lives long and is drawn on piece by piece; without this its marks would pile up.
 void Surface::DropHiddenMarks() {
+    Render();
     constexpr size_t mostCovers = 16;
     std::vector<RECT> covers;
     std::vector<Mark> kept;
@@ -109,12 +103,56 @@ void Surface::DropHiddenMarks() {
     }
     std::reverse(kept.begin(), kept.end());
     picture->marks = std::move(kept);
+    renderedMarks = picture->marks.size();
     marksWorthDropping = std::max(fewMarks, picture->marks.size() * 2);
 }
 
-const QImage& Surface::Image() const {
-    ClosePainter();
+const QImage& Surface::Image() {
+    Render();
     return image;
+}
+
+void Surface::Render() {
+    const QSize size = picture->size;
+    if (image.isNull()) {
+        image = QImage(std::max(scale.At(size.width()), 1), std::max(scale.At(size.height()), 1),
+                       QImage::Format_RGB32);
+        image.fill(Qt::white);
+    } else if (!startedAnew && renderedMarks == picture->marks.size()) {
+        return;
+    }
+    QPainter painter(&image);
+    if (startedAnew) {
+        RenderChanges(painter);
+    } else {
+        RenderNewMarks(painter);
+    }
+    renderedMarks = picture->marks.size();
+    startedAnew = false;
+    changes.Accept();
+}
+
+void Surface::RenderNewMarks(QPainter& painter) {
+    for (size_t i = renderedMarks; i < picture->marks.size(); ++i) {
+        PaintMark(painter, scale, picture->marks[i]);
+    }
+}
+
+void Surface::RenderChanges(QPainter& painter) {
+    for (const RECT& area : changes.ChangedAreas()) {
+        painter.setClipRect(scale.Area(area));
+        for (const Mark& mark : picture->marks) {
+            if (Touches(area, TouchedArea(mark))) {
+                PaintMark(painter, scale, mark);
+            }
+        }
+    }
+}
+
+void Surface::ForgetPixels() {
+    image = {};
+    changes.Invalidate();
+    startedAnew = true;
 }
 
 void Surface::Resize(int width, int height) {
@@ -124,7 +162,11 @@ void Surface::Resize(int width, int height) {
     }
     picture = std::make_shared<Picture>(*picture);
     picture->size = size;
-    Remake();
+    changes = ChangeMap(size);
+    for (const Mark& mark : picture->marks) {
+        changes.Add(mark);
+    }
+    ForgetPixels();
 }
 
 void Surface::SetRatioOfAll(double ratio) {
@@ -134,7 +176,7 @@ void Surface::SetRatioOfAll(double ratio) {
     ratioOfAll = ratio;
     for (Surface* surface : surfaces) {
         surface->scale.ratio = ratio;
-        surface->Remake();
+        surface->ForgetPixels();
     }
 }
 

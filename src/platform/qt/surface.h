@@ -5,6 +5,7 @@
 #include <QtGui/QPainter>
 #include <memory>
 
+#include "platform/qt/change_map.h"
 #include "platform/qt/marks.h"
 
 // From logical to device pixels. At a fractional ratio neighbouring areas meet without a gap,
@@ -24,6 +25,8 @@ struct Scale {
     }
 };
 
+// Drawing is remembered first and rendered when the pixels are asked for: a board that is painted
+// anew from top to bottom costs no more than the cells that changed.
 class Surface {
 public:
     // White, at the handheld's present ratio. A size below one logical pixel counts as one.
@@ -41,27 +44,33 @@ public:
 
     void Draw(Mark mark);
     // Copies pixels, and remembers the source's marks for the day the ratio changes.
-    void Copy(const RECT& area, const Surface& from, POINT source);
+    void Copy(const RECT& area, Surface& from, POINT source);
 
-    // Valid until the next call that draws.
-    const QImage& Image() const;
+    // The pixels with all that was drawn. Valid until the next call that draws.
+    const QImage& Image();
 
     // Content outside the new size is lost; what is new is white.
     void Resize(int width, int height);
 
-    // Draws every surface anew at the ratio, sharp.
+    // Renders every surface anew at the ratio, sharp.
     static void SetRatioOfAll(double ratio);
     static double RatioOfAll();
 
 private:
-    void ClosePainter() const;
-    void Remake();
+    void ForgetPixels();
     void Remember(Mark mark);
+    void StartPicture(const std::vector<Mark>& marks);
     void DropHiddenMarks();
+    void Render();
+    void RenderNewMarks(QPainter& painter);
+    void RenderChanges(QPainter& painter);
 
     Scale scale;
     std::shared_ptr<Picture> picture;
     size_t marksWorthDropping;
-    mutable QImage image;
-    mutable QPainter painter;  // open between drawings, since opening it costs more than a cell
+    ChangeMap changes;
+    // Marks that are in the image already; meaningless while the picture has been started anew.
+    size_t renderedMarks = 0;
+    bool startedAnew = true;
+    QImage image;
 };

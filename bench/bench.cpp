@@ -1,0 +1,185 @@
+// Speed, each measurement beside its limit in the same run:
+//
+//   ParseFile        reading and parsing a 15 by 15 file     beside  CopyFileBytes
+//   PaintBoard/S/R   S cells a side at ratio R, Large        beside  CopyBuffer/S/R
+//   LetterKey/S/R    a key from the message to the screen's
+//                    copy, numbers on                        beside  CopyBuffer/S/R
+//
+// CopyBuffer copies the whole off-screen buffer, pixel for pixel, into another one.
+#include <benchmark/benchmark.h>
+
+#include <QtWidgets/QApplication>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "app/layout.h"
+#include "app/view.h"
+#include "app/win_main.h"
+#include "board/board_painter.h"
+#include "model/puzzle.h"
+#include "model/selection.h"
+#include "platform/drawing.h"
+#include "platform/qt/host_window.h"
+#include "platform/resources.h"
+#include "platform/text.h"
+#include "platform/windows.h"
+#include "play/letter_entry.h"
+#include "play/settings.h"
+#include "storage/paths.h"
+#include "tools/puzzle_text.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Black squares in a slanted pattern, so that there are words of several lengths.
+std::string BoardText(int side) {
+    std::string grid = "Title: Bench\nGrid:\n";
+    std::string clues = "Clues:\n";
+    const auto isBlack = [side](int row, int col) {
+        return row < 0 || col < 0 || row >= side || col >= side || (row * 3 + col * 2) % 13 == 12;
+    };
+    int number = 0;
+    for (int row = 0; row < side; ++row) {
+        for (int col = 0; col < side; ++col) {
+            const bool black = isBlack(row, col);
+            grid += black ? '#' : static_cast<char>('A' + (row * 7 + col * 5) % 26);
+            const bool across = !black && isBlack(row, col - 1) && !isBlack(row, col + 1);
+            const bool down = !black && isBlack(row - 1, col) && !isBlack(row + 1, col);
+            number += across || down;
+            const std::string clue = ": A clue of a usual length, neither long nor short\n";
+            clues += across ? std::to_string(number) + " across" + clue : "";
+            clues += down ? std::to_string(number) + " down" + clue : "";
+        }
+        grid += '\n';
+    }
+    return grid + clues;
+}
+
+void WritePuzzle(const fs::path& path, int side) {
+    PuzzleTextError error;
+    const auto bytes = CompilePuzzle(BoardText(side), error);
+    if (!bytes) {
+        std::fprintf(stderr, "bench puzzle, line %d: %s\n", error.line, error.reason.c_str());
+        std::exit(1);
+    }
+    std::ofstream file(path, std::ios::binary);
+    file.write(reinterpret_cast<const char*>(bytes->data()),
+               static_cast<std::streamsize>(bytes->size()));
+}
+
+void OpenPuzzle(int side) {
+    const std::string path = "\\My Documents\\bench" + std::to_string(side) + ".puz";
+    CopyPath(WidenPath(path), CurrentPuzzlePath);
+    ResetPlayerGrid = 1;
+    if (!ReadPuzzleFile(CurrentPuzzlePath)) {
+        std::abort();
+    }
+    ParsePuzzle();
+    // A board full of letters is the slowest to paint.
+    std::copy_n(SolutionGrid, side * side, PlayerGrid);
+}
+
+void SetUpView(int side, int ratio) {
+    Host().resize(screenWidth * ratio, screenHeight * ratio);
+    QCoreApplication::processEvents();
+    OpenPuzzle(side);
+    Magnification = {0, 0, 1};
+    ShowNumbers = 1;
+    ComputeLayout(MainWindow);
+}
+
+void ParseFile(benchmark::State& state) {
+    OpenPuzzle(15);
+    for (auto _ : state) {
+        ParsePuzzle();
+        benchmark::ClobberMemory();
+    }
+}
+
+void ReadAndParseFile(benchmark::State& state) {
+    for (auto _ : state) {
+        ReadPuzzleFile(CurrentPuzzlePath);
+        ParsePuzzle();
+        benchmark::ClobberMemory();
+    }
+}
+
+void CopyFileBytes(benchmark::State& state) {
+    OpenPuzzle(15);
+    std::vector<char> copy(puzzleImageSize);
+    for (auto _ : state) {
+        std::memcpy(copy.data(), PuzzleImage, puzzleImageSize);
+        benchmark::ClobberMemory();
+    }
+}
+
+void PaintBoardOnce(benchmark::State& state) {
+    const auto side = static_cast<int>(state.range(0));
+    SetUpView(side, static_cast<int>(state.range(1)));
+    for (auto _ : state) {
+        PaintBoard(MainWindow);
+    }
+    state.counters["cells"] = benchmark::Counter(static_cast<double>(side * side),
+                                                 benchmark::Counter::kIsIterationInvariantRate |
+                                                     benchmark::Counter::kInvert);
+}
+
+void LetterKey(benchmark::State& state) {
+    SetUpView(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    int key = 0;
+    for (auto _ : state) {
+        HandleKeyDown('A' + key++ % 26);
+    }
+}
+
+void CopyBuffer(benchmark::State& state) {
+    SetUpView(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    PaintBoard(MainWindow);
+    HDC context = CreateCompatibleDC(OffscreenBuffer.context);
+    HBITMAP bitmap = CreateCompatibleBitmap(OffscreenBuffer.context, BufferWidth, BufferHeight);
+    SelectObject(context, bitmap);
+    for (auto _ : state) {
+        BitBlt(context, 0, 0, BufferWidth, BufferHeight, OffscreenBuffer.context, 0, 0, SRCCOPY);
+        benchmark::ClobberMemory();
+    }
+    DeleteDC(context);
+    DeleteObject(bitmap);
+}
+
+void Boards(benchmark::internal::Benchmark* bench) {
+    for (int side : {15, 40}) {
+        for (int ratio : {1, 3}) {
+            bench->Args({side, ratio});
+        }
+    }
+    bench->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK(CopyFileBytes)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ParseFile)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ReadAndParseFile)->Unit(benchmark::kMicrosecond);
+BENCHMARK(CopyBuffer)->Apply(Boards);
+BENCHMARK(PaintBoardOnce)->Apply(Boards);
+BENCHMARK(LetterKey)->Apply(Boards);
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    const fs::path home = fs::temp_directory_path() / "quadrel-bench";
+    fs::create_directories(home / "Documents");
+    WritePuzzle(home / "Documents" / "bench15.puz", 15);
+    WritePuzzle(home / "Documents" / "bench40.puz", 40);
+    setenv("QUADREL_HOME", home.c_str(), 1);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argumentCount, arguments);
+    InitInstance(&programResources, SW_SHOW);
+    benchmark::Initialize(&argumentCount, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    fs::remove_all(home);
+    return 0;
+}

@@ -1,0 +1,146 @@
+// Boards and the bytes of puzzle files, good and hostile.
+#pragma once
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/numbering.h"
+#include "model/puzzle.h"
+#include "model/selection.h"
+
+using BoardRows = std::vector<std::string>;
+
+struct RawPuzzle {
+    int width = 0;
+    int height = 0;
+    std::string grids;               // the solution, then the player's grid
+    std::vector<std::string> texts;  // title, author, copyright, clues, notes
+
+    std::string Bytes() const {
+        std::string bytes(gridOffset, '\x01');
+        bytes[widthOffset] = static_cast<char>(width);
+        bytes[heightOffset] = static_cast<char>(height);
+        bytes += grids;
+        for (const std::string& text : texts) {
+            bytes.append(text).push_back('\0');
+        }
+        return bytes;
+    }
+};
+
+inline RawPuzzle PuzzleOfBoard(const BoardRows& rows, std::vector<std::string> texts) {
+    std::string solution;
+    for (const std::string& row : rows) {
+        solution += row;
+    }
+    std::string player = solution;
+    std::replace_if(
+        player.begin(), player.end(), [](char cell) { return cell != '.'; }, '-');
+    return {static_cast<int>(rows[0].size()), static_cast<int>(rows.size()), solution + player,
+            std::move(texts)};
+}
+
+// Rows of different letters, so that a cell taken from the wrong place shows; neither symmetric nor
+// square, so that swapped rows and columns do.
+inline BoardRows RandomBoard(std::mt19937& random, int width, int height) {
+    const auto blackPercent = random() % 50;
+    BoardRows rows(static_cast<std::size_t>(height),
+                   std::string(static_cast<std::size_t>(width), '.'));
+    for (std::string& row : rows) {
+        for (char& cell : row) {
+            cell = random() % 100 < blackPercent ? '.' : static_cast<char>('A' + random() % 26);
+        }
+    }
+    return rows;
+}
+
+inline BoardRows RandomBoard(std::mt19937& random) {
+    const int width = 1 + static_cast<int>(random() % 13);
+    const int height = 1 + static_cast<int>(random() % 9);
+    return random() % 2 == 0 ? RandomBoard(random, width, height)
+                             : RandomBoard(random, height, width);
+}
+
+// Puts a board of any shape into the model, numbered, with nothing entered yet.
+inline void PlaceBoard(const BoardRows& rows) {
+    const RawPuzzle puzzle = PuzzleOfBoard(rows, {});
+    PuzzleWidth = puzzle.width;
+    PuzzleHeight = puzzle.height;
+    const std::size_t count = puzzle.grids.size() / 2;
+    std::copy_n(puzzle.grids.begin(), count, SolutionGrid);
+    std::copy_n(puzzle.grids.begin() + static_cast<std::ptrdiff_t>(count), count, PlayerGrid);
+    std::fill(std::begin(Cells), std::end(Cells), CellRecord{-1, -1, -1});
+    std::fill(std::begin(AcrossList), std::end(AcrossList), WordRecord{-1, -1, -1});
+    std::fill(std::begin(DownList), std::end(DownList), WordRecord{-1, -1, -1});
+    NumberGrid();
+    ComputeWordLengths();
+    CursorRow = CursorCol = Direction = 0;
+}
+
+struct PlainWord {
+    int row = 0;
+    int col = 0;
+    int length = 0;
+    int direction = 0;
+
+    bool Contains(int cellRow, int cellCol) const {
+        return direction == 0 ? cellRow == row && cellCol >= col && cellCol < col + length
+                              : cellCol == col && cellRow >= row && cellRow < row + length;
+    }
+};
+
+// The slow, obvious way: cut every row and column at its black squares; pieces of two cells or more
+// are words. In the order of their clues: by first cell, across before down.
+inline std::vector<PlainWord> WordsOf(const BoardRows& rows) {
+    std::vector<PlainWord> words;
+    const int height = static_cast<int>(rows.size());
+    const int width = static_cast<int>(rows[0].size());
+    const auto cut = [&words](const std::string& line, int direction, int place) {
+        for (std::size_t start = 0; start < line.size(); ++start) {
+            const std::size_t end = std::min(line.find('.', start), line.size());
+            const int first = static_cast<int>(start);
+            const int length = static_cast<int>(end - start);
+            if (length >= 2) {
+                words.push_back(direction == 0 ? PlainWord{place, first, length, 0}
+                                               : PlainWord{first, place, length, 1});
+            }
+            start = end;
+        }
+    };
+    for (int row = 0; row < height; ++row) {
+        cut(rows[static_cast<std::size_t>(row)], 0, row);
+    }
+    for (int col = 0; col < width; ++col) {
+        std::string column;
+        for (const std::string& row : rows) {
+            column += row[static_cast<std::size_t>(col)];
+        }
+        cut(column, 1, col);
+    }
+    std::sort(words.begin(), words.end(), [width](const PlainWord& a, const PlainWord& b) {
+        return 2 * (a.row * width + a.col) + a.direction <
+               2 * (b.row * width + b.col) + b.direction;
+    });
+    return words;
+}
+
+// The cell's word in that direction; the cell alone, of length 1, when it has none.
+inline PlainWord WordAt(const std::vector<PlainWord>& words, int row, int col, int direction) {
+    for (const PlainWord& word : words) {
+        if (word.direction == direction && word.Contains(row, col)) {
+            return word;
+        }
+    }
+    return {row, col, 1, direction};
+}
+
+inline std::string BoardText(const BoardRows& rows) {
+    std::string text;
+    for (const std::string& row : rows) {
+        text += "\n" + row;
+    }
+    return text;
+}
