@@ -12,7 +12,7 @@ std::set<Surface*> surfaces;
 double ratioOfAll = 1;
 
 // Below this many marks looking for hidden ones costs more than drawing them again would.
-constexpr size_t fewMarks = 64;
+constexpr size_t fewMarks = 256;
 
 RECT WholeArea(QSize size) {
     return {0, 0, size.width(), size.height()};
@@ -53,6 +53,8 @@ void Surface::Copy(const RECT& area, Surface& from, POINT source) {
     renderedMarks = picture->marks.size();
     startedAnew = false;
     changes.Accept();
+    // An earlier copy that is hidden now would keep a whole picture alive.
+    DropHiddenMarks();
 }
 
 void Surface::Remember(Mark mark) {
@@ -67,7 +69,9 @@ void Surface::Remember(Mark mark) {
     }
     changes.Add(mark);
     picture->marks.push_back(std::move(mark));
-    if (picture->marks.size() > marksWorthDropping) {
+    // While a picture is being painted anew its marks are not piling up, and half of it is no
+    // sight worth rendering.
+    if (!startedAnew && picture->marks.size() > marksWorthDropping) {
         DropHiddenMarks();
     }
 }
