@@ -8,6 +8,7 @@
 #include "platform/qt/client_view.h"
 #include "platform/qt/endings.h"
 #include "platform/qt/first_start.h"
+#include "platform/qt/font_warm_up.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 
@@ -27,6 +28,7 @@ public:
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
+    WarmUpFonts();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);
     QApplication application(argumentCount, arguments);
@@ -36,5 +38,7 @@ int main(int argumentCount, char** arguments) {
     WatchForEndings();
     PrepareFolders();
     WCHAR commandLine[] = u"";
-    return WinMain(&programResources, nullptr, commandLine, SW_SHOW);
+    const int exitCode = WinMain(&programResources, nullptr, commandLine, SW_SHOW);
+    AwaitFonts();
+    return exitCode;
 }

@@ -11,6 +11,7 @@
 #include "platform/drawing.h"
 #include "platform/text.h"
 #include "platform/windows.h"
+#include "play/word_extent.h"
 
 namespace {
 
@@ -36,8 +37,7 @@ HFONT CreateBarFont(HDC context) {
 
 // Null when the selected cell has no word in the current direction.
 const WordRecord* FindSelectedWord() {
-    const CellRecord& cell = Cells[CursorRow * PuzzleWidth + CursorCol];
-    const int key = Direction == 0 ? cell.acrossClue : cell.downClue;
+    const int key = ClueIndexAt(CursorRow, CursorCol, Direction);
     if (key == -1) {
         return nullptr;
     }

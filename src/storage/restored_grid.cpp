@@ -4,9 +4,13 @@
 
 namespace {
 
+// Some files' two grids disagree about a square; letters saved with either are the puzzle's.
 bool BlackSquaresAgree() {
-    for (int i = 0; i < PuzzleWidth * PuzzleHeight; ++i) {
-        if ((PlayerGrid[i] == blackSquare) != (SolutionGrid[i] == blackSquare)) {
+    const int count = PuzzleWidth * PuzzleHeight;
+    const char* fileGrid = PuzzleImage + gridOffset + count;
+    for (int i = 0; i < count; ++i) {
+        const bool black = PlayerGrid[i] == blackSquare;
+        if (black != (SolutionGrid[i] == blackSquare) && black != (fileGrid[i] == blackSquare)) {
             return false;
         }
     }

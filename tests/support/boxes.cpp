@@ -17,6 +17,7 @@ namespace {
 std::deque<int> plannedAnswers;
 std::deque<std::filesystem::path> plannedFiles;
 std::vector<ShownMessage> shownMessages;
+std::function<void()> duringNextBox;
 
 QMessageBox::StandardButton ButtonFor(int answer) {
     return answer == IDYES ? QMessageBox::Yes : answer == IDNO ? QMessageBox::No : QMessageBox::Ok;
@@ -34,6 +35,9 @@ Value TakeNext(std::deque<Value>& planned, Value otherwise) {
 
 void Answer(QMessageBox* box) {
     shownMessages.push_back({box->text().toStdU16String(), box->windowTitle().toStdU16String()});
+    if (duringNextBox) {
+        std::exchange(duringNextBox, nullptr)();
+    }
     const int answer = TakeNext(plannedAnswers, 0);
     if (QAbstractButton* button = answer == 0 ? nullptr : box->button(ButtonFor(answer))) {
         button->click();
@@ -77,6 +81,10 @@ void AnswerBoxes() {
 
 void AnswerNextMessageBox(int answer) {
     plannedAnswers.push_back(answer);
+}
+
+void DoDuringNextMessageBox(std::function<void()> action) {
+    duringNextBox = std::move(action);
 }
 
 std::vector<ShownMessage> TakeShownMessages() {

@@ -10,8 +10,10 @@
 #include "app/view.h"
 #include "app/win_main.h"
 #include "platform/qt/client_view.h"
+#include "platform/qt/drawing_objects.h"
 #include "platform/qt/host_window.h"
 #include "platform/qt/message_queue.h"
+#include "platform/qt/soft_input_panel.h"
 #include "platform/qt/window.h"
 #include "resources/ids.h"
 #include "tools/puzzle_text.h"
@@ -37,6 +39,22 @@ void SendPress(POINT point) {
 
 void SendRelease(POINT point) {
     SendMouse(QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton);
+}
+
+POINT MiddleOfCell(int row, int col) {
+    return {BoardLeft - ScrollX + col * CellSize + CellSize / 2,
+            row * CellSize - ScrollY + CellSize / 2};
+}
+
+// What a keyboard sends along with a key: its letter, or with Ctrl its control character.
+QString TextOfKey(int key, Qt::KeyboardModifiers modifiers) {
+    if (key >= 0x80) {
+        return {};
+    }
+    if (modifiers.testFlag(Qt::ControlModifier)) {
+        return QChar(key & 0x1F);
+    }
+    return QString(QChar(key)).toLower();
 }
 
 }  // namespace
@@ -86,8 +104,17 @@ void Handheld::Tap(int x, int y) {
 }
 
 void Handheld::TapCell(int row, int col) {
-    Tap(BoardLeft - ScrollX + col * CellSize + CellSize / 2,
-        row * CellSize - ScrollY + CellSize / 2);
+    const POINT middle = MiddleOfCell(row, col);
+    Tap(middle.x, middle.y);
+}
+
+void Handheld::DoubleTapCell(int row, int col) {
+    const POINT middle = MiddleOfCell(row, col);
+    SendPress(middle);
+    SendRelease(middle);
+    SendMouse(QEvent::MouseButtonDblClick, middle, Qt::LeftButton, Qt::LeftButton);
+    SendRelease(middle);
+    Settle();
 }
 
 void Handheld::Hold(int x, int y) {
@@ -116,10 +143,22 @@ void Handheld::Drag(POINT from, POINT to) {
     Settle();
 }
 
+void Handheld::PutDown(POINT point) {
+    SendPress(point);
+}
+
+void Handheld::MoveTo(POINT point) {
+    SendMouse(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton);
+    Settle();
+}
+
+void Handheld::LiftAt(POINT point) {
+    SendRelease(point);
+    Settle();
+}
+
 void Handheld::Press(int key, Qt::KeyboardModifiers modifiers) {
-    const bool typed = key < 0x80 && modifiers == Qt::NoModifier;
-    const QString text = typed ? QString(QChar(key)).toLower() : QString();
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, TextOfKey(key, modifiers));
     QCoreApplication::sendEvent(MainView(), &press);
     Settle();
 }
@@ -148,6 +187,22 @@ bool Handheld::PressButton(const QString& tooltip) {
     return false;
 }
 
+void Handheld::PressPanelButton() {
+    EXPECT_TRUE(PressButton("Keyboard"));
+}
+
+void Handheld::TapPanel(double x, double y) {
+    auto* panel = Host().findChild<SoftInputPanel*>();
+    const QPointF place = QPointF(x, y) * Host().Magnification();
+    for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent event(type, place, panel->mapToGlobal(place), Qt::LeftButton, held,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(panel, &event);
+    }
+    Settle();
+}
+
 void Handheld::Resize(double magnification) {
     Host().resize(qRound(screenWidth * magnification), qRound(screenHeight * magnification));
     Settle();
@@ -158,7 +213,23 @@ QImage Handheld::Screen() {
 }
 
 COLORREF Handheld::Pixel(int x, int y) {
-    const QRgb color = MainWindow->surface->Image().pixel(x, y);
+    return ColorAt(MainWindow->surface->Image(), x, y);
+}
+
+QImage Handheld::Client() {
+    return MainWindow->surface->Image().copy();
+}
+
+QImage BufferImage() {
+    return ImageOf(OffscreenBuffer.context);
+}
+
+QImage ImageOf(HDC context) {
+    return context->surface->Image().copy();
+}
+
+COLORREF ColorAt(const QImage& image, int x, int y) {
+    const QRgb color = image.pixel(x, y);
     return RGB(qRed(color), qGreen(color), qBlue(color));
 }
 

@@ -22,9 +22,16 @@ public:
     // Points are logical pixels of the main window's client area.
     void Tap(int x, int y);
     void TapCell(int row, int col);
+    // Two taps as quick as a host's double click.
+    void DoubleTapCell(int row, int col);
     void Hold(int x, int y);
     void RightClick(int x, int y);
     void Drag(POINT from, POINT to);
+    // The stylus in single steps. Putting it down takes effect with the step after it; the first
+    // move of a drag is longer than a hand trembles, else the step waits for a tap-and-hold.
+    void PutDown(POINT point);
+    void MoveTo(POINT point);
+    void LiftAt(POINT point);
 
     // A key of the host's keyboard, by the toolkit's number; letters and digits by their character.
     void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -33,6 +40,10 @@ public:
 
     // Presses the menu bar's button with that tooltip; false when there is none or it is disabled.
     bool PressButton(const QString& tooltip);
+    // Raises or lowers the soft input panel by its button.
+    void PressPanelButton();
+    // Taps the soft input panel, in its own logical pixels.
+    void TapPanel(double x, double y);
 
     void Resize(double magnification);
     // Handles all input and messages that wait.
@@ -42,7 +53,14 @@ public:
     QImage Screen();
     // A pixel of the main window's client area at magnification 1.
     COLORREF Pixel(int x, int y);
+    // The main window's client area, in device pixels.
+    QImage Client();
 };
 
-// Starts, hands the puzzle to the home's documents first.
+// The off-screen buffer and any other context's surface, in device pixels.
+QImage BufferImage();
+QImage ImageOf(HDC context);
+COLORREF ColorAt(const QImage& image, int x, int y);
+
+// Compiles the text into a puzzle file of the home's documents.
 void PutPuzzle(const TemporaryHome& home, const std::string& name, const std::string& text);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,9 @@ struct ShownMessage {
 // The answer (IDOK, IDYES, IDNO) for the next box that nobody has planned an answer for yet.
 // A box without a planned answer is closed like with Escape.
 void AnswerNextMessageBox(int answer);
+
+// Something that happens while the next box is open, before it is answered.
+void DoDuringNextMessageBox(std::function<void()> action);
 
 // All boxes shown since the last call.
 std::vector<ShownMessage> TakeShownMessages();

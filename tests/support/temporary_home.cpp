@@ -24,6 +24,16 @@ TemporaryHome::~TemporaryHome() {
     fs::remove_all(folder, ignored);
 }
 
+std::map<std::string, std::string> TemporaryHome::Files() const {
+    std::map<std::string, std::string> files;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+        if (entry.is_regular_file()) {
+            files[fs::relative(entry.path(), folder).string()] = ReadBytes(entry.path());
+        }
+    }
+    return files;
+}
+
 void WriteBytes(const fs::path& path, const std::string& bytes) {
     std::ofstream file(path, std::ios::binary);
     file << bytes;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 
 class TemporaryHome {
@@ -18,6 +19,11 @@ public:
     std::filesystem::path documents() const {
         return folder / "Documents";
     }
+    std::filesystem::path stateFile() const {
+        return programFolder() / "quadrel.dat";
+    }
+    // Every file under the home and what is in it.
+    std::map<std::string, std::string> Files() const;
     std::filesystem::path programFolder() const {
         return folder / "quadrel";
     }

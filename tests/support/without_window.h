@@ -1,16 +1,20 @@
-// Rules that paint, tested without a window: what they paint goes nowhere.
+// Rules that paint, tested without a window: what they paint goes to a buffer that nobody sees.
 #pragma once
+
+#include <utility>
 
 #include "app/view.h"
 
 class WithoutWindow {
 public:
     WithoutWindow() {
-        MainWindow = nullptr;
+        CreateOffscreenBuffer(nullptr, 1, 1);
         CellSize = 1;
         ViewWidth = ViewHeight = ScrollX = ScrollY = 0;
     }
     ~WithoutWindow() {
+        DeleteOffscreenBuffer();
+        OffscreenBuffer = buffer;
         MainWindow = window;
         ScrollX = ScrollY = 0;
     }
@@ -18,5 +22,6 @@ public:
     WithoutWindow& operator=(const WithoutWindow&) = delete;
 
 private:
-    HWND window = MainWindow;
+    OffscreenBufferRecord buffer = std::exchange(OffscreenBuffer, {});
+    HWND window = std::exchange(MainWindow, nullptr);
 };

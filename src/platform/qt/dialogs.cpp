@@ -14,7 +14,7 @@ int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     // Titles of puzzles and file names come from elsewhere and are never markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromUtf16(text));
-    box.setIcon((style & MB_ICONQUESTION) != 0 ? QMessageBox::Question : QMessageBox::Information);
+    box.setIcon((style & MB_ICONQUESTION) != 0 ? QMessageBox::Question : QMessageBox::NoIcon);
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
     const int answer = RunModal(box);

@@ -218,15 +218,15 @@ int GetDeviceCaps(HDC, int index) {
 }
 
 COLORREF SetTextColor(HDC context, COLORREF color) {
-    return std::exchange(context->textColor, color);
+    return context == nullptr ? 0 : std::exchange(context->textColor, color);
 }
 
 COLORREF SetBkColor(HDC context, COLORREF color) {
-    return std::exchange(context->backgroundColor, color);
+    return context == nullptr ? 0 : std::exchange(context->backgroundColor, color);
 }
 
 int SetBkMode(HDC context, int mode) {
-    return std::exchange(context->backgroundMode, mode);
+    return context == nullptr ? 0 : std::exchange(context->backgroundMode, mode);
 }
 
 BOOL Rectangle(HDC context, int left, int top, int right, int bottom) {

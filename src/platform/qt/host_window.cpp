@@ -10,6 +10,7 @@
 #include "platform/qt/art.h"
 #include "platform/qt/client_view.h"
 #include "platform/qt/endings.h"
+#include "platform/qt/font_warm_up.h"
 #include "platform/qt/icon_object.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_bar.h"
@@ -95,6 +96,7 @@ void HostWindow::SetLook(const std::u16string& title, HICON icon) {
 
 void HostWindow::ShowIfHidden() {
     if (!isVisible()) {
+        AwaitFonts();
         FitScreen();
         show();
     }

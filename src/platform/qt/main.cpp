@@ -3,10 +3,12 @@
 
 #include "platform/qt/endings.h"
 #include "platform/qt/first_start.h"
+#include "platform/qt/font_warm_up.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 
 int main(int argumentCount, char** arguments) {
+    WarmUpFonts();
     // A whole device pixel ratio leaves every edge on a device pixel; the screen's own
     // magnification takes care of the rest.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -18,5 +20,7 @@ int main(int argumentCount, char** arguments) {
     WatchForEndings();
     PrepareFolders();
     WCHAR commandLine[] = u"";
-    return WinMain(&programResources, nullptr, commandLine, SW_SHOW);
+    const int exitCode = WinMain(&programResources, nullptr, commandLine, SW_SHOW);
+    AwaitFonts();
+    return exitCode;
 }

@@ -78,10 +78,20 @@ void MarkPainter::PaintRoundFrame(const FrameMark& mark, const QRect& outer) con
     painter.restore();
 }
 
+// At a fractional ratio a line begins right behind the pixel before it and ends right before the
+// next one, so that a bevel never parts from its outline.
 void MarkPainter::operator()(const LineMark& mark) const {
-    if (mark.area.right > mark.area.left && mark.area.bottom > mark.area.top) {
-        painter.fillRect(OuterArea(scale, mark.area), QColor::fromRgb(mark.color));
+    const RECT& area = mark.area;
+    if (area.right <= area.left || area.bottom <= area.top) {
+        return;
     }
+    const int thickness = scale.LineThickness();
+    const bool across = area.right - area.left > 1;
+    const bool down = area.bottom - area.top > 1;
+    const QPoint first(scale.At(area.left - 1) + thickness, scale.At(area.top - 1) + thickness);
+    const QPoint last(across ? scale.At(area.right) - 1 : scale.At(area.left) + thickness - 1,
+                      down ? scale.At(area.bottom) - 1 : scale.At(area.top) + thickness - 1);
+    painter.fillRect(QRect(first, last), QColor::fromRgb(mark.color));
 }
 
 void MarkPainter::operator()(const CopyMark& mark) const {

@@ -1,10 +1,13 @@
 #include "platform/qt/single_instance.h"
 
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <QtCore/QCryptographicHash>
-#include <QtNetwork/QLocalServer>
-#include <QtNetwork/QLocalSocket>
+#include <QtCore/QSocketNotifier>
+#include <cstddef>
+#include <cstring>
 
 #include "platform/qt/device_paths.h"
 #include "platform/qt/host_window.h"
@@ -12,44 +15,64 @@
 
 namespace {
 
-QString SocketName(const WCHAR* className) {
+int listener = -1;
+QByteArray claimedName;
+
+QByteArray SocketName(const WCHAR* className) {
     const QByteArray folder =
         QCryptographicHash::hash(ProgramFolderOnHost().toUtf8(), QCryptographicHash::Sha256);
-    return QString("%1-%2-%3")
-        .arg(QString::fromUtf16(className).toLower())
-        .arg(getuid())
-        .arg(QString::fromLatin1(folder.toHex().left(16)));
+    return QString::fromUtf16(className).toLower().toUtf8() + '-' + QByteArray::number(getuid()) +
+           '-' + folder.toHex().left(16);
 }
 
-QString claimedName;
+struct Address {
+    sockaddr_un name{};
+    socklen_t size = 0;
+};
 
-void AnswerCalls(QLocalServer* server) {
-    while (QLocalSocket* call = server->nextPendingConnection()) {
-        QObject::connect(call, &QLocalSocket::disconnected, call, &QObject::deleteLater);
+// A name that begins with a zero is in no folder: the kernel gives it to one process at a time and
+// frees it when that ends, so two starts at once cannot both get it and a crash leaves nothing.
+Address AbstractAddress(const QByteArray& name) {
+    Address address;
+    address.name.sun_family = AF_UNIX;
+    const auto length =
+        std::min(static_cast<size_t>(name.size()), sizeof address.name.sun_path - 1);
+    std::memcpy(address.name.sun_path + 1, name.data(), length);
+    address.size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + length);
+    return address;
+}
+
+int OpenSocket() {
+    return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+void AnswerCalls() {
+    int call = -1;
+    while ((call = accept4(listener, nullptr, nullptr, SOCK_CLOEXEC)) >= 0) {
+        close(call);
         Host().ComeForward();
-        call->disconnectFromServer();
     }
 }
 
 }  // namespace
 
 bool ClaimInstance(const WCHAR* className) {
-    static QLocalServer* server = nullptr;
-    if (server != nullptr) {
+    if (listener >= 0) {
         return true;
     }
     claimedName = SocketName(className);
-    auto* candidate = new QLocalServer;
-    // An abstract name is taken and freed by the kernel: two starts at once cannot both get it,
-    // and a crash leaves nothing behind.
-    candidate->setSocketOptions(QLocalServer::AbstractNamespaceOption);
-    if (!candidate->listen(claimedName)) {
-        const bool taken = candidate->serverError() == QAbstractSocket::AddressInUseError;
-        delete candidate;
+    const Address address = AbstractAddress(claimedName);
+    const int candidate = OpenSocket();
+    if (bind(candidate, reinterpret_cast<const sockaddr*>(&address.name), address.size) != 0) {
+        const bool taken = errno == EADDRINUSE;
+        close(candidate);
         return !taken;
     }
-    server = candidate;
-    QObject::connect(server, &QLocalServer::newConnection, [] { AnswerCalls(server); });
+    constexpr int waitingCalls = 8;
+    listen(candidate, waitingCalls);
+    listener = candidate;
+    auto* notifier = new QSocketNotifier(listener, QSocketNotifier::Read);
+    QObject::connect(notifier, &QSocketNotifier::activated, AnswerCalls);
     return true;
 }
 
@@ -58,16 +81,12 @@ HWND OtherInstance() {
     return &other;
 }
 
+// The call alone is the request; the other process needs no more.
 BOOL AskOtherInstanceForward() {
-    constexpr int patienceMilliseconds = 2000;
-    QLocalSocket socket;
-    socket.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
-    socket.connectToServer(claimedName);
-    if (!socket.waitForConnected(patienceMilliseconds)) {
-        return FALSE;
-    }
-    if (socket.state() == QLocalSocket::ConnectedState) {
-        socket.waitForDisconnected(patienceMilliseconds);
-    }
-    return TRUE;
+    const Address address = AbstractAddress(claimedName);
+    const int call = OpenSocket();
+    const bool connected =
+        connect(call, reinterpret_cast<const sockaddr*>(&address.name), address.size) == 0;
+    close(call);
+    return connected;
 }

@@ -1,0 +1,31 @@
+#include "platform/qt/font_warm_up.h"
+
+#include <dlfcn.h>
+
+#include <thread>
+
+namespace {
+
+std::thread reader;
+
+void ReadConfiguration() {
+    // Loaded by name, since the toolkit has it in any case and this needs one function of it.
+    void* library = dlopen("libfontconfig.so.1", RTLD_LAZY);
+    auto* initialize =
+        library == nullptr ? nullptr : reinterpret_cast<int (*)()>(dlsym(library, "FcInit"));
+    if (initialize != nullptr) {
+        initialize();
+    }
+}
+
+}  // namespace
+
+void WarmUpFonts() {
+    reader = std::thread(ReadConfiguration);
+}
+
+void AwaitFonts() {
+    if (reader.joinable()) {
+        reader.join();
+    }
+}

@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "support/played_board.h"
+
+namespace {
+
+class Input : public PlayedBoard {
+protected:
+    Input() {
+        Play(lopsidedBoard, smallSize);
+    }
+    std::string FirstLetters() {
+        return PlayerLetters().substr(0, 2);
+    }
+};
+
+TEST_F(Input, LettersOfEveryKindTypeLetters) {
+    handheld->Press('a');
+    handheld->Press('B', Qt::ShiftModifier);
+    EXPECT_EQ(FirstLetters(), "AB");
+    SelectCell(0, 0, 0);
+    handheld->Commit(QString::fromUtf8("çÜ"));
+    EXPECT_EQ(FirstLetters(), "CU");
+    SelectCell(0, 0, 0);
+    handheld->Commit(QString::fromUtf8("n1!ñ"));
+    EXPECT_EQ(FirstLetters(), "NN");
+    handheld->Commit(QString::fromUtf8("中\n"));
+    EXPECT_EQ(Direction, 1) << "a line end of an input method is the Enter key";
+    EXPECT_EQ(FirstLetters(), "NN");
+}
+
+TEST_F(Input, KeysHeldWithCtrlOrAltNeverType) {
+    const std::string before = PlayerLetters();
+    for (char key = 'A'; key <= 'Z'; ++key) {
+        if (key != 'Q') {
+            handheld->Press(key, Qt::ControlModifier);
+        }
+        handheld->Press(key, Qt::AltModifier);
+        handheld->Press(key, Qt::ControlModifier | Qt::ShiftModifier | Qt::AltModifier);
+        if (!handheld->Running()) {
+            break;  // Ctrl+Q with more keys is still Ctrl+Q
+        }
+    }
+    EXPECT_EQ(PlayerLetters(), before);
+    EXPECT_EQ(CursorCol, 0);
+}
+
+TEST_F(Input, CtrlAIsSwallowedAndCtrlWithOtherKeysDoesNotMove) {
+    const QImage screen = handheld->Client();
+    handheld->Press(Qt::Key_A, Qt::ControlModifier);
+    handheld->Press(Qt::Key_Return, Qt::ControlModifier);
+    handheld->Press(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_TRUE(handheld->Running());
+    EXPECT_EQ(Direction, 0);
+    EXPECT_EQ(CursorCol, 0);
+    EXPECT_EQ(handheld->Client(), screen);
+}
+
+TEST_F(Input, TheSecondTapOfAQuickPairCounts) {
+    handheld->DoubleTapCell(3, 5);
+    EXPECT_EQ(CursorRow, 3);
+    EXPECT_EQ(CursorCol, 5);
+    EXPECT_EQ(Direction, 1);
+}
+
+// Faults: the hold flips the direction, its release counts as a tap, the next tap is lost.
+TEST_F(Input, HoldingSelectsAndItsReleaseDoesNothing) {
+    handheld->TapCell(3, 5);
+    const int x = BoardLeft + 5 * CellSize + 8;
+    const int y = 3 * CellSize + 8;
+    const auto start = std::chrono::steady_clock::now();
+    handheld->Hold(x, y);
+    const auto held = std::chrono::steady_clock::now() - start;
+    EXPECT_GE(held, std::chrono::milliseconds(590));
+    EXPECT_EQ(Direction, 0);
+    EXPECT_EQ(TapHoldActive, 0);
+    handheld->TapCell(3, 5);
+    EXPECT_EQ(Direction, 1);
+}
+
+TEST_F(Input, ATremblingHandHoldsAndAMovingOneDrags) {
+    handheld->TapCell(3, 5);
+    const int x = BoardLeft + 5 * CellSize + 8;
+    const int y = 3 * CellSize + 8;
+    handheld->PutDown({x, y});
+    handheld->MoveTo({x + 3, y - 2});
+    handheld->LiftAt({x + 2, y});
+    EXPECT_EQ(Direction, 0);
+
+    handheld->PutDown({x, y});
+    handheld->MoveTo({x + 9, y});
+    handheld->LiftAt({x, y});
+    EXPECT_EQ(Direction, 1) << "a release after a drag is a tap";
+}
+
+TEST_F(Input, RightClickSelectsAtOnceWithoutFlipping) {
+    const auto start = std::chrono::steady_clock::now();
+    handheld->TapCell(3, 5);
+    handheld->RightClick(BoardLeft + 5 * CellSize + 8, 3 * CellSize + 8);
+    EXPECT_EQ(Direction, 0);
+    EXPECT_EQ(CursorCol, 5);
+    handheld->RightClick(BoardLeft + CellSize + 8, 8);
+    EXPECT_EQ(CursorRow, 0);
+    EXPECT_EQ(CursorCol, 1);
+    EXPECT_EQ(ColorAt(handheld->Client(), BoardLeft + CellSize + 4, 4), RGB(255, 200, 125));
+    handheld->RightClick(100, 255);
+    EXPECT_EQ(CursorCol, 1) << "the clue bar selects nothing";
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(500));
+}
+
+TEST_F(Input, SoftInputPanelTypesIntoTheBoard) {
+    handheld->PressPanelButton();
+    handheld->TapPanel(12 + 4 * 18 + 9, 24);  // T
+    handheld->TapPanel(10, 56);               // Shift
+    handheld->TapPanel(30 + 5 * 18 + 9, 56);  // N
+    EXPECT_EQ(FirstLetters(), "TN");
+    handheld->TapPanel(228, 8);  // Backspace
+    EXPECT_EQ(FirstLetters(), "T-");
+    handheld->TapPanel(228, 40);  // Enter
+    EXPECT_EQ(Direction, 1);
+    handheld->TapPanel(231, 72);  // right
+    EXPECT_NE(CursorCol, 0);
+    handheld->TapPanel(9, 8);  // a digit
+    EXPECT_EQ(PlayerLetters().find('1'), std::string::npos);
+}
+
+// The stylus means the same logical pixel however large the host's window is.
+TEST_F(Input, TapsFindTheirCellAtEveryMagnification) {
+    for (double magnification : {1.37, 2.5, 3.0}) {
+        handheld->Resize(magnification);
+        for (int row : {0, 3}) {
+            SelectCell(4, 4, 0);
+            handheld->TapCell(row, 6);
+            EXPECT_EQ(CursorRow, row) << magnification;
+            EXPECT_EQ(CursorCol, 6) << magnification;
+        }
+    }
+}
+
+}  // namespace

@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+
+#include "app/drag_scroll.h"
+#include "platform/windows.h"
+#include "support/played_board.h"
+
+namespace {
+
+constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
+
+BoardRows SquareBoard(int side) {
+    BoardRows rows(static_cast<std::size_t>(side), std::string(static_cast<std::size_t>(side), 'A'));
+    rows.back()[0] = '.';
+    return rows;
+}
+
+class Layout : public PlayedBoard {
+protected:
+    void ExpectBoardToFit(int side, int viewHeight) {
+        EXPECT_GE(CellSize, 1);
+        EXPECT_LE(side * CellSize, 240);
+        EXPECT_LE(side * CellSize, viewHeight);
+        EXPECT_TRUE(side * (CellSize + 1) > 240 || side * (CellSize + 1) > viewHeight);
+    }
+    void ExpectSoundLayout(int side, int clientHeight) {
+        EXPECT_EQ(ViewWidth, 240);
+        EXPECT_EQ(ViewHeight, clientHeight - 20);
+        EXPECT_EQ(ScrollX, 0);
+        EXPECT_EQ(ScrollY, 0);
+        const int right = 240 - BoardLeft - side * CellSize;
+        EXPECT_LE(std::abs(right - BoardLeft), side * CellSize <= 240 ? 1 : 1000);
+        EXPECT_GE(BoardLeft, 0);
+        // A buffer that is too short or too narrow can never show the last row or column.
+        EXPECT_GE(BufferWidth, std::max(ViewWidth, side * CellSize));
+        EXPECT_GE(BufferHeight, std::max(ViewHeight, side * CellSize));
+        EXPECT_EQ(BufferImage().size(), QSize(BufferWidth, BufferHeight));
+    }
+};
+
+TEST_F(Layout, FitsSmallBoardsAndFixesTheLargerCellsForEverySide) {
+    for (bool panelUp : {false, true}) {
+        if (panelUp) {
+            handheld->PressPanelButton();
+        }
+        const int clientHeight = panelUp ? 188 : 268;
+        for (MagnificationFlags size : sizes) {
+            for (int side = 5; side <= 40; ++side) {
+                SCOPED_TRACE(side);
+                Play(SquareBoard(side), size);
+                ExpectSoundLayout(side, clientHeight);
+                if (size.Small == 1) {
+                    ExpectBoardToFit(side, clientHeight - 20);
+                } else {
+                    EXPECT_EQ(CellSize, size.Medium == 1 ? 20 : 24);
+                }
+            }
+        }
+    }
+}
+
+TEST_F(Layout, OfTheUsualSizesIsAsThePlayerKnowsIt) {
+    Play(SquareBoard(15), smallSize);
+    EXPECT_EQ(CellSize, 16);
+    EXPECT_EQ(BoardLeft, 0);
+    Play(SquareBoard(21), smallSize);
+    EXPECT_EQ(CellSize, 11);
+    EXPECT_EQ(BoardLeft, 4);
+    Play(SquareBoard(15), mediumSize);
+    EXPECT_EQ(BufferWidth, 301);
+    EXPECT_EQ(BufferHeight, 301);
+    EXPECT_EQ(BoardLeft, 0);
+    Play(SquareBoard(10), largeSize);
+    EXPECT_EQ(BufferWidth, 240);
+    EXPECT_EQ(BufferHeight, 268);
+}
+
+// What is left of a board lies in the window, seen through the view: the copy's source point.
+TEST_F(Layout, ScreenShowsTheScrolledPartOfTheBuffer) {
+    BoardRows rows = SquareBoard(20);
+    rows[11][9] = '.';
+    Play(rows, mediumSize);
+    ScrollX = 37;
+    ScrollY = 101;
+    CopyViewToScreen(MainWindow);
+    EXPECT_EQ(handheld->Client().copy(0, 0, 240, 248), BufferImage().copy(37, 101, 240, 248));
+}
+
+// Faults: the view jumps when the panel comes or goes, a small board stays behind it.
+TEST_F(Layout, PanelKeepsTheBottomEdgeOfLargerBoardsInPlace) {
+    Play(SquareBoard(25), mediumSize);
+    for (int scroll : {0, 30, 90, 253}) {
+        ScrollX = 40;
+        ScrollY = scroll;
+        handheld->PressPanelButton();
+        EXPECT_EQ(ScrollY, scroll + 80);
+        EXPECT_EQ(ScrollY + ViewHeight, scroll + 248);
+        EXPECT_EQ(ScrollX, 40);
+        EXPECT_EQ(handheld->Client().copy(0, 0, 240, 168),
+                  BufferImage().copy(40, scroll + 80, 240, 168));
+        handheld->PressPanelButton();
+        EXPECT_EQ(ScrollY, scroll);
+        EXPECT_EQ(ViewHeight, 248);
+        EXPECT_EQ(handheld->Client().copy(0, 0, 240, 248),
+                  BufferImage().copy(40, scroll, 240, 248));
+    }
+    handheld->PressPanelButton();
+    ScrollY = 50;
+    handheld->PressPanelButton();
+    EXPECT_EQ(ScrollY, 50);  // there is nothing above the board to scroll to
+}
+
+TEST_F(Layout, PanelHidesTheOnScreenKeyboardAndRefitsSmallBoards) {
+    Play(SquareBoard(15), smallSize);
+    KeyboardVisible = 1;
+    SelectCell(2, 3, 1);
+    handheld->PressPanelButton();
+    EXPECT_EQ(KeyboardVisible, 0);
+    EXPECT_EQ(BottomReserve, 20);
+    EXPECT_EQ(CellSize, 11);
+    EXPECT_EQ(ColorAt(BufferImage(), BoardLeft + 3 * 11 + 5, 2 * 11 + 5), RGB(255, 200, 125));
+    handheld->PressPanelButton();
+    EXPECT_EQ(CellSize, 16);
+}
+
+// The slow way to drag: one pen, one board, and a move that would pass a limit does not happen.
+struct PlainDrag {
+    int scrollX = 0;
+    int scrollY = 0;
+    int mostX = 0;
+    int mostY = 0;
+    bool scrolls = false;
+    int viewHeight = 0;
+    POINT last;
+
+    void Move(POINT pen) {
+        if (!scrolls || pen.x < 0 || pen.x >= 240 || pen.y < 0 || pen.y >= viewHeight) {
+            return;
+        }
+        Along(scrollX, last.x - pen.x, mostX);
+        Along(scrollY, last.y - pen.y, mostY);
+        last = pen;
+    }
+    static void Along(int& scroll, int move, int most) {
+        const int wanted = scroll + move;
+        if ((move > 0 && wanted <= most) || (move < 0 && wanted >= 0)) {
+            scroll = wanted;
+        }
+    }
+};
+
+class Dragging : public PlayedBoard {
+protected:
+    void DragAtRandom(std::mt19937& random, PlainDrag& plain) {
+        handheld->PutDown({120, 100});
+        plain.last = {120, 100};
+        for (int move = 0; move < 25; ++move) {
+            // The first move is no trembling; some leave the view, and some the window.
+            const POINT pen = move == 0 ? POINT{100, 80}
+                                        : POINT{static_cast<LONG>(random() % 280) - 20,
+                                                static_cast<LONG>(random() % 300) - 20};
+            handheld->MoveTo(pen);
+            plain.Move(pen);
+            ASSERT_EQ(ScrollX, plain.scrollX) << "move " << move;
+            ASSERT_EQ(ScrollY, plain.scrollY) << "move " << move;
+        }
+        ASSERT_EQ(handheld->Client().copy(0, 0, ViewWidth, ViewHeight),
+                  BufferImage().copy(ScrollX, ScrollY, ViewWidth, ViewHeight));
+        // Outside of the view, so that the release selects nothing.
+        handheld->LiftAt({120, 290});
+    }
+};
+
+TEST_F(Dragging, FollowsTheStylusWithinTheBoard) {
+    for (unsigned seed = 1; seed <= 24; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const int side = 8 + static_cast<int>(random() % 14);
+        const MagnificationFlags size = sizes[seed % 3];
+        Play(SquareBoard(side), size);
+        const int board = side * CellSize + 1;
+        PlainDrag plain;
+        plain.viewHeight = 248;
+        plain.scrolls = size.Small == 0 && (board - 1 > 240 || board - 1 > 248);
+        plain.mostX = std::max(board - 240, 0);
+        plain.mostY = std::max(board - 248, 0);
+        DragAtRandom(random, plain);
+    }
+}
+
+// A narrow board behind the raised panel: its lower rows can be reached, and not more.
+TEST_F(Dragging, ReachesTheLowerRowsOfANarrowBoardAboveThePanel) {
+    Play(SquareBoard(11), mediumSize);
+    handheld->PressPanelButton();
+    ScrollY = 0;
+    std::mt19937 random(3);
+    PlainDrag plain;
+    plain.viewHeight = 168;
+    plain.scrolls = true;
+    plain.mostY = 221 - 168;
+    DragAtRandom(random, plain);
+}
+
+TEST_F(Dragging, EndsWithATapUnderTheStylus) {
+    Play(SquareBoard(20), mediumSize);
+    handheld->Drag({200, 200}, {150, 150});
+    EXPECT_EQ(CursorRow, (150 + 50) / 20);
+    EXPECT_EQ(CursorCol, (150 + 50) / 20);
+}
+
+}  // namespace

@@ -1,0 +1,268 @@
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "platform/dialogs.h"
+#include "platform/qt/host_window.h"
+#include "storage/paths.h"
+#include "support/played_board.h"
+
+namespace {
+
+const BoardRows otherBoard = {
+    "ABCD",  //
+    "EF.G",  //
+    "HIJK",  //
+    "LMNO",
+};
+
+class Opening : public testing::Test {
+protected:
+    Opening() {
+        ForgetPuzzle();
+        PutFile("first.puz", PuzzleBytes(squareBoard, "First"));
+        PutFile("second.puz", PuzzleBytes(otherBoard, "Second"));
+        handheld.emplace(home);
+    }
+    ~Opening() override {
+        handheld.reset();
+        EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>());
+    }
+
+    void PutFile(const std::string& name, const std::string& bytes) {
+        WriteBytes(home.documents() / name, bytes);
+    }
+    void Choose(const std::string& name, int answer = IDYES) {
+        ChooseNextFile(home.documents() / name);
+        AnswerNextMessageBox(answer);
+        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+    }
+    static ShownMessage Question(const std::u16string& name) {
+        return {u"Do you want to load the puzzle " + name + u" ?", u"Confirm"};
+    }
+    void Open(const std::string& name) {
+        Choose(name);
+        EXPECT_EQ(TakeShownMessages(),
+                  (std::vector<ShownMessage>{Question(std::u16string(name.begin(), name.end()))}));
+    }
+    static std::u16string Path() {
+        return CurrentPuzzlePath;
+    }
+    // Everything that a player would miss.
+    struct Play {
+        std::u16string path;
+        std::string letters;
+        std::string solution;
+        std::string title;
+        std::string clue;
+        bool operator==(const Play&) const = default;
+    };
+    static Play Present() {
+        return {Path(), PlayerLetters(),
+                std::string(SolutionGrid, static_cast<std::size_t>(PuzzleWidth * PuzzleHeight)),
+                TitleText, ClueTable[1]};
+    }
+
+    TemporaryHome home;
+    std::optional<Handheld> handheld;
+};
+
+TEST_F(Opening, AnotherPuzzleAndTheFirstAgainKeepsEveryLetter) {
+    handheld->Type("XYZ");
+    handheld->TapCell(4, 3);
+    handheld->Type("Q");
+    const std::string firstLetters = PlayerLetters();
+    Open("second.puz");
+    EXPECT_EQ(Path(), u"\\My Documents\\second.puz");
+    EXPECT_EQ(PlayerLetters(), "------.---------");
+    EXPECT_EQ(CursorRow, 0);
+    EXPECT_EQ(CursorCol, 0);
+    handheld->Type("MN");
+    const std::string secondLetters = PlayerLetters();
+    EXPECT_EQ(secondLetters.substr(0, 4), "MN--");
+
+    Open("first.puz");
+    EXPECT_EQ(PlayerLetters(), firstLetters);
+    EXPECT_STREQ(ClueTable[0], "Clue 0");
+    Open("second.puz");
+    EXPECT_EQ(PlayerLetters(), secondLetters);
+}
+
+TEST_F(Opening, ShowsTheNewBoardWithItsFirstWordSelected) {
+    handheld->TapCell(5, 5);
+    Open("second.puz");
+    EXPECT_EQ(CellSize, 60);
+    EXPECT_EQ(handheld->Pixel(15, 15), RGB(255, 200, 125));
+    EXPECT_EQ(handheld->Pixel(75, 15), RGB(255, 255, 2));
+    EXPECT_EQ(handheld->Pixel(2 * 60 + 15, 60 + 15), RGB(0, 0, 0));
+}
+
+TEST_F(Opening, ThePuzzleInPlayReadsItsOwnLettersStraightBack) {
+    handheld->Type("XYZ");
+    const std::string letters = PlayerLetters();
+    Open("first.puz");
+    EXPECT_EQ(PlayerLetters(), letters);
+    EXPECT_EQ(ReadBytes(home.documents() / "first.dat").size(), 4096u);
+}
+
+TEST_F(Opening, BringsBackTheSettingsSavedWithAPuzzle) {
+    Open("second.puz");
+    Magnification = mediumSize;
+    AutoSkip = ShowNumbers = 1;
+    SquareColor = RGB(1, 2, 3);
+    BackgroundColor = RGB(250, 128, 7);
+    Open("first.puz");
+    EXPECT_EQ(CellSize, 20) << "settings stay when the opened puzzle has none of its own";
+    Magnification = smallSize;
+    AutoSkip = ShowNumbers = 0;
+    SquareColor = BackgroundColor = 0;
+    Open("second.puz");
+    EXPECT_EQ(CellSize, 20);
+    EXPECT_EQ(AutoSkip, 1);
+    EXPECT_EQ(ShowNumbers, 1);
+    EXPECT_EQ(SquareColor, RGB(1, 2, 3));
+    EXPECT_EQ(BackgroundColor, RGB(250, 128, 7));
+}
+
+TEST_F(Opening, CancelAndNoChangeAndWriteNothing) {
+    handheld->Type("XYZ");
+    const Play before = Present();
+    const auto files = home.Files();
+    ChooseNextFile({});
+    EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+    EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>());
+    Choose("second.puz", IDNO);
+    Choose("second.puz", 0);
+    EXPECT_EQ(TakeShownMessages(),
+              (std::vector<ShownMessage>{Question(u"second.puz"), Question(u"second.puz")}));
+    EXPECT_EQ(Present(), before);
+    EXPECT_EQ(CursorCol, 2);
+    EXPECT_EQ(home.Files(), files);
+}
+
+// Faults: the puzzle in play is lost to a file that is none, or its letters are.
+TEST_F(Opening, FilesThatAreNoPuzzlesLeaveThePuzzleInPlay) {
+    const std::string good = PuzzleBytes(otherBoard);
+    std::string zeroSized = good;
+    zeroSized[44] = zeroSized[45] = 0;
+    std::string tooLarge = good;
+    tooLarge[44] = tooLarge[45] = 41;
+    std::string negative = good;
+    negative[44] = negative[45] = static_cast<char>(0x80);
+    PutFile("gone.dat", "");
+    handheld->Type("XYZ");
+    const Play before = Present();
+    for (const std::string& bytes :
+         {std::string("<html><body>The page you asked for is not here, sorry.</body></html>"),
+          std::string(), std::string(81, '\x0F'), zeroSized, tooLarge, negative,
+          good.substr(0, 52 + 31), std::string(3000, '\xFF')}) {
+        PutFile("broken.puz", bytes);
+        Choose("broken.puz");
+        EXPECT_EQ(TakeShownMessages(),
+                  (std::vector<ShownMessage>{
+                      Question(u"broken.puz"),
+                      {u"This file is not a puzzle that Quadrel can open.", u"Open File"}}))
+            << bytes.size() << " bytes";
+        EXPECT_EQ(Present(), before) << bytes.size() << " bytes";
+        EXPECT_EQ(handheld->Pixel(BoardLeft + 3 * CellSize + 9, 9), RGB(0, 0, 0));
+    }
+    handheld->Press('V');
+    EXPECT_EQ(PlayerLetters()[static_cast<std::size_t>(CursorRow * 6)], 'V');
+}
+
+TEST_F(Opening, FilesThatAreNotSquareAreExplainedAndChangeNothing) {
+    PutFile("broad.puz", PuzzleBytes(BoardRows(21, std::string(15, 'A'))));
+    PutFile("tall.puz", PuzzleBytes(lopsidedBoard));
+    handheld->Type("XYZ");
+    const Play before = Present();
+    const auto files = home.Files();
+    Choose("broad.puz");
+    Choose("tall.puz");
+    EXPECT_EQ(TakeShownMessages(),
+              (std::vector<ShownMessage>{
+                  Question(u"broad.puz"),
+                  {u"Quadrel plays square puzzles only. This one is 15 by 21.", u"Open File"},
+                  Question(u"tall.puz"),
+                  {u"Quadrel plays square puzzles only. This one is 7 by 5.", u"Open File"}}));
+    EXPECT_EQ(Present(), before);
+    EXPECT_EQ(home.Files(), files);
+}
+
+// Between the choice and the answer another program may take the file away.
+TEST_F(Opening, AFileThatIsGoneLeavesThePuzzleInPlayAndItsProgressSaved) {
+    handheld->Type("XYZ");
+    const Play before = Present();
+    DoDuringNextMessageBox([this] { std::filesystem::remove(home.documents() / "second.puz"); });
+    Open("second.puz");
+    EXPECT_EQ(Present(), before);
+    EXPECT_TRUE(std::filesystem::exists(home.documents() / "first.dat"));
+    Open("first.puz");
+    EXPECT_EQ(Present(), before);
+}
+
+TEST_F(Opening, ProgressOfAnotherPuzzleUnderTheSameNameIsDropped) {
+    Open("second.puz");
+    handheld->Type("MNOP");
+    Open("first.puz");
+    BoardRows moved = otherBoard;
+    std::swap(moved[1][2], moved[2][1]);
+    for (const BoardRows& rows : {moved, squareBoard}) {
+        PutFile("second.puz", PuzzleBytes(rows));
+        Open("second.puz");
+        EXPECT_EQ(PlayerLetters().find_first_not_of("-."), std::string::npos);
+        for (int i = 0; i < PuzzleWidth * PuzzleHeight; ++i) {
+            EXPECT_EQ(PlayerGrid[i] == '.', SolutionGrid[i] == '.') << i;
+        }
+        PutFile("second.puz", PuzzleBytes(otherBoard));
+        Open("first.puz");
+        PutFile("second.dat", ReadBytes(home.documents() / "first.dat"));
+    }
+}
+
+TEST_F(Opening, FindsAPuzzleWhenTheStartFoundNone) {
+    handheld.reset();
+    std::filesystem::remove(home.stateFile());
+    std::filesystem::rename(home.documents() / "first.puz", home.root() / "first.puz");
+    std::filesystem::remove(home.documents() / "second.puz");
+    ForgetPuzzle();
+    handheld.emplace(home);
+    ASSERT_EQ(TakeShownMessages().size(), 1u);
+    Choose("../first.puz");
+    EXPECT_EQ(TakeShownMessages(), (std::vector<ShownMessage>{Question(u"first.puz")}));
+    EXPECT_EQ(PlayerLetters().size(), 36u);
+    handheld->Type("XYZ");
+    const std::string letters = PlayerLetters();
+    handheld.reset();
+    handheld.emplace(home);
+    EXPECT_EQ(PlayerLetters(), letters);
+}
+
+// Closing the window answers the open question with No and saves.
+TEST_F(Opening, ClosingDuringTheQuestionEndsTheProgramWithItsState) {
+    handheld->Type("XYZ");
+    DoDuringNextMessageBox([] { Host().close(); });
+    Choose("second.puz", 0);
+    EXPECT_EQ(TakeShownMessages(), (std::vector<ShownMessage>{Question(u"second.puz")}));
+    EXPECT_FALSE(handheld->Running());
+    EXPECT_NE(ReadBytes(home.stateFile()).find("XYZ.--"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(home.documents() / "first.dat"));
+}
+
+// What only one path knows may not be written into a file of a wrong name.
+TEST_F(Opening, KeepsProgressBesideEachPuzzleWhereverItLies) {
+    std::filesystem::create_directory(home.documents() / "Mine");
+    PutFile("Mine/second.puz", PuzzleBytes(otherBoard));
+    ChooseNextFile(home.documents() / "Mine" / "second.puz");
+    AnswerNextMessageBox(IDYES);
+    handheld->PressButton("Select a new puzzle");
+    TakeShownMessages();
+    EXPECT_EQ(Path(), u"\\My Documents\\Mine\\second.puz");
+    handheld->Type("MN");
+    Open("second.puz");
+    EXPECT_EQ(PlayerLetters(), "------.---------");
+    EXPECT_NE(ReadBytes(home.documents() / "Mine" / "second.dat").find("MN----.-"),
+              std::string::npos);
+}
+
+}  // namespace

@@ -1,0 +1,96 @@
+// A running program with a board of the test's choice in play.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "app/layout.h"
+#include "app/repaint.h"
+#include "app/view.h"
+#include "model/puzzle.h"
+#include "model/selection.h"
+#include "play/settings.h"
+#include "support/boards.h"
+#include "support/handheld.h"
+#include "support/message_boxes.h"
+#include "support/temporary_home.h"
+
+// Neither symmetric nor square, with words that end at the right and at the bottom edge; N has no
+// across word, and I no down word.
+inline const BoardRows lopsidedBoard = {
+    "AB.CDEF",  //
+    "GHIJ.KL",  //
+    ".N.PQR.",  //
+    "STUVWXY",  //
+    "ZAB.C.A",
+};
+
+// The same for a puzzle that can be opened, which is square.
+inline const BoardRows squareBoard = {
+    "ABC.DE",  //
+    "FGHIJK",  //
+    "LM.NOP",  //
+    "QRSTUV",  //
+    ".WXYZA",  //
+    "BC.DEF",
+};
+
+inline constexpr MagnificationFlags smallSize{1, 0, 0};
+inline constexpr MagnificationFlags mediumSize{0, 1, 0};
+inline constexpr MagnificationFlags largeSize{0, 0, 1};
+
+// Every word has the clue "Clue " and its index; files of boards with other sides are made too.
+inline std::string PuzzleBytes(const BoardRows& rows, const std::string& title = "Title") {
+    std::vector<std::string> texts = {title, "Author", "Copyright"};
+    for (std::size_t i = 0; i < WordsOf(rows).size(); ++i) {
+        texts.push_back("Clue " + std::to_string(i));
+    }
+    texts.push_back("");
+    return PuzzleOfBoard(rows, texts).Bytes();
+}
+
+// The model as a new process has it: every test of this one leaves its puzzle behind.
+inline void ForgetPuzzle() {
+    std::fill(std::begin(SolutionGrid), std::end(SolutionGrid), '\0');
+    std::fill(std::begin(PlayerGrid), std::end(PlayerGrid), '\0');
+    std::fill(std::begin(Cells), std::end(Cells), CellRecord{});
+    std::fill(std::begin(AcrossList), std::end(AcrossList), WordRecord{});
+    std::fill(std::begin(DownList), std::end(DownList), WordRecord{});
+    ClueTable.fill("");
+    ViewWidth = ViewHeight = BufferWidth = BufferHeight = 0;
+}
+
+// The letters that the player has entered, row by row.
+inline std::string PlayerLetters() {
+    return std::string(PlayerGrid, static_cast<std::size_t>(PuzzleWidth * PuzzleHeight));
+}
+
+inline void SelectCell(int row, int col, int direction) {
+    CursorRow = row;
+    CursorCol = col;
+    Direction = direction;
+}
+
+class PlayedBoard : public testing::Test {
+protected:
+    PlayedBoard() {
+        WriteBytes(home.documents() / "start.puz", PuzzleBytes({"ABC", "D.E", "FGH"}));
+        handheld = std::make_unique<Handheld>(home);
+    }
+    ~PlayedBoard() override {
+        handheld.reset();
+        EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>());
+    }
+
+    void Play(const BoardRows& rows, MagnificationFlags size) {
+        PlaceBoard(rows);
+        Magnification = size;
+        ComputeLayout(MainWindow);
+        RepaintFully(MainWindow);
+    }
+
+    TemporaryHome home;
+    std::unique_ptr<Handheld> handheld;
+};
