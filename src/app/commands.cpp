@@ -1,10 +1,24 @@
 #include "app/commands.h"
 
 #include "app/layout.h"
+#include "app/menu_checks.h"
 #include "app/repaint.h"
 #include "app/view.h"
+#include "board/board_painter.h"
+#include "board/checker.h"
+#include "board/clue_bar.h"
+#include "board/hints.h"
+#include "board/word_highlight.h"
+#include "keyboard/keyboard_drawing.h"
+#include "keyboard/keyboard_visibility.h"
+#include "model/puzzle.h"
 #include "model/selection.h"
+#include "platform/dialogs.h"
+#include "platform/text.h"
 #include "platform/windows.h"
+#include "play/fill_clear.h"
+#include "play/settings.h"
+#include "play/word_jump.h"
 #include "resources/ids.h"
 #include "storage/open_puzzle.h"
 
@@ -28,22 +42,93 @@ void OpenAnotherPuzzle(HWND window) {
     RepaintFully(window);
 }
 
+void CheckAndCopy(HWND window) {
+    CheckPuzzle(window);
+    CopyViewToScreen(window);
+}
+
+void TurnDirection(HWND window) {
+    ToggleDirection();
+    PaintBoard(window);
+    PaintWordHighlight(window);
+    PaintClueBar(window);
+    CopyViewToScreen(window);
+}
+
+void ToggleKeyboard(HWND window) {
+    if (KeyboardVisible == 1) {
+        HideKeyboard(window);
+    } else {
+        ShowKeyboard(window);
+    }
+}
+
+void ChooseSize(HWND window, const MagnificationFlags& size) {
+    Magnification = size;
+    CursorRow = CursorCol = 0;
+    UpdateMenuChecks();
+    ComputeLayout(window);
+    Repaint(window);
+}
+
+void ToggleAutoSkip() {
+    AutoSkip = 1 - AutoSkip;
+    UpdateMenuChecks();
+}
+
+void ToggleNumbers(HWND window) {
+    ShowNumbers = 1 - ShowNumbers;
+    UpdateMenuChecks();
+    RepaintFully(window);
+}
+
+void ChangeGrid(HWND window, void (*change)()) {
+    change();
+    RepaintFully(window);
+}
+
+void ClearPuzzleIfSure(HWND window) {
+    const int answer =
+        MessageBoxW(window, u"Do you want to clear the puzzle ? This cannot be undone.",
+                    u"Are You Sure?", MB_YESNO | MB_ICONQUESTION);
+    if (answer == IDYES) {
+        ChangeGrid(window, ClearPuzzle);
+    }
+}
+
+void ShowPuzzleInfo(HWND window) {
+    MessageBoxW(window, WidenText(TitleText).c_str(), u"Puzzle Information", MB_OK);
+}
+
 }  // namespace
 
 bool RunCommand(HWND window, int command) {
     switch (command) {
-        case commandClose:
-            CloseAsDialog(window);
-            return true;
+        case commandClose: CloseAsDialog(window); return true;
         case commandExit:
-        case commandQuit:
-            CloseProgram(window);
-            return true;
+        case commandQuit: CloseProgram(window); return true;
         case commandOpen:
-        case commandAvailable:
-            OpenAnotherPuzzle(window);
-            return true;
-        default:
-            return false;
+        case commandAvailable: OpenAnotherPuzzle(window); return true;
+        case commandCheck: CheckAndCopy(window); return true;
+        case commandToggleDirection: TurnDirection(window); return true;
+        case commandKeyboard: ToggleKeyboard(window); return true;
+        case commandMainMenu:
+        case commandSizeMenu: UpdateMenuChecks(); return true;
+        case commandSmall: ChooseSize(window, {1, 0, 0}); return true;
+        case commandMedium: ChooseSize(window, {0, 1, 0}); return true;
+        case commandLarge: ChooseSize(window, {0, 0, 1}); return true;
+        case commandAutoSkip: ToggleAutoSkip(); return true;
+        case commandNumbers: ToggleNumbers(window); return true;
+        case commandFillLetter: ChangeGrid(window, FillLetter); return true;
+        case commandFillWord: ChangeGrid(window, FillWord); return true;
+        case commandFillPuzzle: ChangeGrid(window, FillPuzzle); return true;
+        case commandClearLetter: ChangeGrid(window, ClearLetter); return true;
+        case commandClearWord: ChangeGrid(window, ClearWord); return true;
+        case commandClearPuzzle: ClearPuzzleIfSure(window); return true;
+        case commandHintLetter: ShowLetterSolution(window); return true;
+        case commandHintWord: ShowWordSolution(window); return true;
+        case commandHintPuzzle: ShowPuzzleSolution(window); return true;
+        case commandPuzzleInfo: ShowPuzzleInfo(window); return true;
+        default: return false;
     }
 }

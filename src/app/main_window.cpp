@@ -1,13 +1,14 @@
 #include "app/main_window.h"
 
 #include "app/commands.h"
-#include "app/layout.h"
 #include "app/repaint.h"
 #include "app/stylus_input.h"
 #include "app/view.h"
 #include "board/board_painter.h"
 #include "board/clue_bar.h"
 #include "board/word_highlight.h"
+#include "keyboard/keyboard_drawing.h"
+#include "keyboard/keyboard_visibility.h"
 #include "platform/drawing.h"
 #include "platform/windows.h"
 #include "play/letter_entry.h"
@@ -32,6 +33,7 @@ void ShowChosenClue(HWND window) {
         ScrollIntoView();
     }
     PaintClueBar(window);
+    DrawKeyboardIfVisible(window);
     CopyViewToScreen(window);
 }
 
@@ -48,15 +50,7 @@ void FollowInputPanel(HWND window) {
     ShellActivateInfo = {};
     SHHandleWMSettingChange(window, static_cast<WPARAM>(-1), 0, &ShellActivateInfo);
     KeyboardVisible = 0;
-    if (Magnification.Small == 1) {
-        ComputeLayout(window);
-        PaintBoard(window);
-        PaintWordHighlight(window);
-    } else {
-        KeepBottomEdge(window, clueBarReserve);
-    }
-    PaintClueBar(window);
-    CopyViewToScreen(window);
+    LayOutWithoutKeyboard(window);
 }
 
 void HandleSettingChange(HWND window, WPARAM setting) {
@@ -90,40 +84,20 @@ ATOM DefineMainClass(HINSTANCE instance, const WCHAR* className) {
 
 LRESULT MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_CREATE:
-            return InitializeGame(window);
-        case WM_DESTROY:
-            ShutDown();
-            return 0;
-        case WM_SIZE:
-            CloseWhenMinimized(window, wParam);
-            return 0;
-        case WM_ACTIVATE:
-            HandleActivation(window);
-            return 0;
-        case WM_PAINT:
-            Repaint(window);
-            return 0;
-        case WM_SETTINGCHANGE:
-            HandleSettingChange(window, wParam);
-            return 0;
-        case WM_KEYDOWN:
-            HandleKeyDown(static_cast<int>(wParam));
-            return 1;
+        case WM_CREATE: return InitializeGame(window);
+        case WM_DESTROY: ShutDown(); return 0;
+        case WM_SIZE: CloseWhenMinimized(window, wParam); return 0;
+        case WM_ACTIVATE: HandleActivation(window); return 0;
+        case WM_PAINT: Repaint(window); return 0;
+        case WM_SETTINGCHANGE: HandleSettingChange(window, wParam); return 0;
+        case WM_KEYDOWN: HandleKeyDown(static_cast<int>(wParam)); return 1;
         case WM_COMMAND:
             return RunCommand(window, LOWORD(wParam))
                        ? 0
                        : DefWindowProcW(window, message, wParam, lParam);
-        case WM_MOUSEMOVE:
-            HandlePenMove(window, lParam);
-            return 1;
-        case WM_LBUTTONDOWN:
-            HandlePenDown(window, wParam, lParam);
-            return 1;
-        case WM_LBUTTONUP:
-            HandlePenUp(window, wParam, lParam);
-            return 1;
-        default:
-            return DefWindowProcW(window, message, wParam, lParam);
+        case WM_MOUSEMOVE: HandlePenMove(window, lParam); return 1;
+        case WM_LBUTTONDOWN: HandlePenDown(window, wParam, lParam); return 1;
+        case WM_LBUTTONUP: HandlePenUp(window, wParam, lParam); return 1;
+        default: return DefWindowProcW(window, message, wParam, lParam);
     }
 }

@@ -3,8 +3,8 @@
 
 #include "platform/types.h"
 
-// Board, clue bar, screen; the highlight of the selection is not drawn.
+// Board, clue bar, keyboard, screen; the highlight of the selection is not drawn.
 void Repaint(HWND window);
 
-// Board, highlight, clue bar, screen.
+// Board, highlight, clue bar, keyboard, screen.
 void RepaintFully(HWND window);

@@ -3,10 +3,15 @@
 #include "app/drag_scroll.h"
 #include "app/view.h"
 #include "board/board_tap.h"
+#include "keyboard/keyboard_tap.h"
+#include "keyboard/keyboard_visibility.h"
 #include "model/puzzle.h"
+#include "platform/menus.h"
+#include "platform/resources.h"
 #include "platform/windows.h"
 #include "play/scroll_into_view.h"
 #include "play/settings.h"
+#include "resources/ids.h"
 
 namespace {
 
@@ -60,6 +65,22 @@ void HandleTapAndHold(HWND window, WPARAM buttons, LPARAM point) {
     }
     TapHoldActive = 0;
     CopyViewToScreen(window);
+    const auto packed = static_cast<WPARAM>(point);
+    TrackPopupMenuEx(GetSubMenu(LoadMenuW(&programResources, menuContext), 0), 0, LOWORD(packed),
+                     HIWORD(packed), window, nullptr);
+}
+
+// The keys reach further down than the picture: a tap below it is a tap beside a key.
+bool OnKeyboard(POINT point) {
+    constexpr RECT tapArea{0, 225, 240, 298};
+    return KeyboardVisible == 1 && PtInRect(&tapArea, point);
+}
+
+void TapKeyboard(HWND window, WPARAM buttons, LPARAM point) {
+    KeyboardTap(window, WM_LBUTTONUP, buttons, point);
+    if (KeyboardVisible != 1) {
+        LayOutWithoutKeyboard(window);
+    }
 }
 
 }  // namespace
@@ -80,7 +101,11 @@ void HandlePenMove(HWND window, LPARAM point) {
 
 void HandlePenUp(HWND window, WPARAM buttons, LPARAM point) {
     StylusNow = SignedPoint(point);
-    if (InBoardView(window, StylusNow) && TapBoard(window, WM_LBUTTONUP, buttons, point)) {
+    if (!InBoardView(window, StylusNow)) {
+        if (OnKeyboard(StylusNow)) {
+            TapKeyboard(window, buttons, point);
+        }
+    } else if (TapBoard(window, WM_LBUTTONUP, buttons, point)) {
         CopyViewToScreen(window);
     }
 }

@@ -26,12 +26,16 @@ bool NumbersShown() {
 }
 
 void DrawCellNumber(HDC context, int row, int col) {
+    DrawCellNumberInBox(context, row, col, NumberBox(row, col));
+}
+
+void DrawCellNumberInBox(HDC context, int row, int col, const RECT& box) {
     const int number = Cells[row * PuzzleWidth + col].clueNumber;
     if (!NumbersShown() || number == 0 || number == -1) {
         return;
     }
     const std::u16string text = DecimalText(number);
-    RECT box = NumberBox(row, col);
+    RECT drawn = box;
     const Selected font(context, NumberFont);
-    DrawTextW(context, text.c_str(), -1, &box, DT_SINGLELINE);
+    DrawTextW(context, text.c_str(), -1, &drawn, DT_SINGLELINE);
 }

@@ -62,9 +62,11 @@ void DrawCellSquare(HDC context, int row, int col);
 // A letter in the middle of its cell, with LetterFont. Zero draws nothing.
 void DrawCellLetter(HDC context, int row, int col, char letter);
 
-// The clue number that starts in the cell, if the size and the settings show numbers. Leaves
-// NumberFont's use to itself.
+// The clue number that starts in the cell, if the size and the settings show numbers, with
+// NumberFont.
 void DrawCellNumber(HDC context, int row, int col);
+// The same, cut at the box.
+void DrawCellNumberInBox(HDC context, int row, int col, const RECT& box);
 
 // Numbers are readable only in the larger sizes.
 bool NumbersShown();

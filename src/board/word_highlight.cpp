@@ -2,8 +2,10 @@
 
 #include "app/view.h"
 #include "board/cell_drawing.h"
-#include "board/selected_word.h"
+#include "model/puzzle.h"
+#include "model/selection.h"
 #include "platform/drawing.h"
+#include "play/word_extent.h"
 
 namespace {
 

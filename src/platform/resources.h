@@ -29,10 +29,23 @@ struct AcceleratorTable {
     std::span<const AcceleratorResource> accelerators;
 };
 
+// A command, a submenu, or a separator, which has no text.
+struct MenuItemResource {
+    const WCHAR* text = nullptr;
+    int command = 0;
+    std::span<const MenuItemResource> submenu{};
+    bool available = true;  // false while nothing answers the command
+};
+
+struct MenuResource {
+    int id;
+    std::span<const MenuItemResource> popups;
+};
+
 constexpr int noPopup = 0xFFFF;
 
 struct MenuBarButton {
-    int image;  // a picture number
+    int image;  // an index of the module's menu-bar pictures
     int command;
     int style;
     int popup;             // index of its popup in the menu of the bar's number, or noPopup
@@ -50,7 +63,9 @@ struct ModuleResources {
     std::span<const StringResource> strings;
     std::span<const ArtResource> art;
     std::span<const ArtResource> icons;
+    std::span<const ArtResource> menuBarArt;
     std::span<const AcceleratorTable> acceleratorTables;
+    std::span<const MenuResource> menus;
     std::span<const MenuBarResource> menuBars;
 };
 

@@ -30,6 +30,12 @@ static_assert(sizeof(SHACTIVATEINFO) == 12);
 // before the call returns. FALSE for another action or a wrong cbSize.
 BOOL SHSipInfo(UINT action, UINT parameter, void* record, UINT flags);
 
+constexpr UINT SIP_UP = 0;
+constexpr UINT SIP_DOWN = 1;
+constexpr UINT SIP_FORCEDOWN = 2;
+// Says what the window would like; the panel goes up or down like by its button.
+BOOL SHSipPreference(HWND window, UINT state);
+
 // Fits the window to the visible desktop: 240 by 268 with the panel down, 240 by 188 with it up.
 BOOL SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* record);
 

@@ -44,3 +44,7 @@ int SelectedCell() {
 WordExtent FindSelectedExtent() {
     return FindWordExtent(CursorRow, CursorCol, Direction);
 }
+
+bool SelectionIsBlack() {
+    return PlayerGrid[SelectedCell()] == blackSquare;
+}

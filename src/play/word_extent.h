@@ -1,6 +1,8 @@
 // Where words lie on the board, and the selected one.
 #pragma once
 
+#include "model/selection.h"
+
 // Columns of the cell's row across, rows of its column down.
 struct WordExtent {
     int first = 0;
@@ -22,3 +24,19 @@ int SelectedCell();
 
 // The selected cell's word in the current Direction.
 WordExtent FindSelectedExtent();
+
+// True when the selected cell is a black square of the player's grid.
+bool SelectionIsBlack();
+
+// Calls visit(row, col) from the selected word's first cell to its last.
+template <typename Visitor>
+void ForEachCellOfWord(const Visitor& visit) {
+    const WordExtent word = FindSelectedExtent();
+    for (int position = word.first; position <= word.last; ++position) {
+        if (Direction == 0) {
+            visit(CursorRow, position);
+        } else {
+            visit(position, CursorCol);
+        }
+    }
+}

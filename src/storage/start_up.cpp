@@ -6,6 +6,7 @@
 
 #include "app/layout.h"
 #include "app/menu_bar.h"
+#include "app/menu_checks.h"
 #include "app/view.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
@@ -111,6 +112,7 @@ int InitializeGame(HWND window) {
         return 0;
     }
     ParseWithRestoredGrid();
+    UpdateMenuChecks();
     ComputeLayout(window);
     return 1;
 }

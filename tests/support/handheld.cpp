@@ -228,6 +228,11 @@ QImage ImageOf(HDC context) {
     return context->surface->Image().copy();
 }
 
+// For messages of failed comparisons.
+void PrintTo(const QImage& image, std::ostream* out) {
+    *out << "a picture of " << image.width() << " by " << image.height();
+}
+
 COLORREF ColorAt(const QImage& image, int x, int y) {
     const QRgb color = image.pixel(x, y);
     return RGB(qRed(color), qGreen(color), qBlue(color));

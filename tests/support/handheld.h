@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtGui/QImage>
+#include <iosfwd>
 #include <string>
 
 #include "platform/types.h"
@@ -60,6 +61,7 @@ public:
 // The off-screen buffer and any other context's surface, in device pixels.
 QImage BufferImage();
 QImage ImageOf(HDC context);
+void PrintTo(const QImage& image, std::ostream* out);
 COLORREF ColorAt(const QImage& image, int x, int y);
 
 // Compiles the text into a puzzle file of the home's documents.

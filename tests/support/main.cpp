@@ -1,11 +1,24 @@
 #include <gtest/gtest.h>
 
 #include <QtWidgets/QApplication>
+#include <iostream>
 
 #include "support/boxes.h"
 
+namespace {
+
+// The offscreen screen complains about every chooser and message box; nothing else is hidden.
+void ShowWarning(QtMsgType, const QMessageLogContext&, const QString& text) {
+    if (!text.startsWith("This plugin does not support propagateSizeHints")) {
+        std::cerr << text.toStdString() << std::endl;
+    }
+}
+
+}  // namespace
+
 int main(int argumentCount, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(ShowWarning);
     testing::InitGoogleTest(&argumentCount, arguments);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);

@@ -72,6 +72,12 @@ void ClientView::mouseReleaseEvent(QMouseEvent* event) {
 
 void ClientView::keyPressEvent(QKeyEvent* event) {
     constexpr auto shortcutModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    // A lone press of Alt opens the menu bar when it is let go.
+    altAlone = event->key() == Qt::Key_Alt && event->modifiers() == Qt::AltModifier;
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
+        host->FocusMenuBar();
+        return;
+    }
     const int key = VirtualKey(*event);
     if (key == 0) {
         event->ignore();
@@ -82,6 +88,23 @@ void ClientView::keyPressEvent(QKeyEvent* event) {
     const UINT message = held ? WM_SYSKEYDOWN : WM_KEYDOWN;
     PostMessage({{window, message, static_cast<WPARAM>(key), 0},
                  event->modifiers().testFlag(Qt::ControlModifier)});
+}
+
+void ClientView::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Alt && altAlone) {
+        host->FocusMenuBar();
+    }
+    altAlone = false;
+}
+
+// Alt and Tab leave the program with Alt held down.
+void ClientView::focusOutEvent(QFocusEvent*) {
+    altAlone = false;
+}
+
+// Tab is no key of the game and must not carry the focus away from the board.
+bool ClientView::focusNextPrevChild(bool) {
+    return false;
 }
 
 void ClientView::inputMethodEvent(QInputMethodEvent* event) {

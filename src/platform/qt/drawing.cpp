@@ -43,14 +43,10 @@ const StockObjects& Stock() {
 
 HGDIOBJ& Slot(HDC context, DrawingObject::Kind kind) {
     switch (kind) {
-        case DrawingObject::Kind::Pen:
-            return context->pen;
-        case DrawingObject::Kind::Brush:
-            return context->brush;
-        case DrawingObject::Kind::Font:
-            return context->font;
-        default:
-            return context->bitmap;
+        case DrawingObject::Kind::Pen: return context->pen;
+        case DrawingObject::Kind::Brush: return context->brush;
+        case DrawingObject::Kind::Font: return context->font;
+        default: return context->bitmap;
     }
 }
 

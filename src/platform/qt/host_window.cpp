@@ -7,6 +7,7 @@
 #include <QtGui/QScreen>
 #include <algorithm>
 
+#include "platform/menus.h"
 #include "platform/qt/art.h"
 #include "platform/qt/client_view.h"
 #include "platform/qt/endings.h"
@@ -22,8 +23,13 @@
 
 namespace {
 
+LRESULT AnswerForMenuBar(HWND, UINT message, WPARAM, LPARAM lParam) {
+    return message == SHCMBM_GETSUBMENU ? Host().MenuOfButton(static_cast<int>(lParam)) : 0;
+}
+
 HWND MenuBarHandle() {
     static Window handle;
+    handle.procedure = AnswerForMenuBar;
     return &handle;
 }
 
@@ -142,6 +148,20 @@ HWND HostWindow::OpenMenuBar(HWND owner, HINSTANCE instance, int id) {
 void HostWindow::CloseMenuBar() {
     menuBar->Close();
     menuBar->hide();
+}
+
+LRESULT HostWindow::MenuOfButton(int command) const {
+    return reinterpret_cast<LRESULT>(menuBar->MenuOfButton(command));
+}
+
+void HostWindow::FocusMenuBar() {
+    menuBar->FocusFirstButton();
+}
+
+void HostWindow::FocusProgram() {
+    if (HWND window = TopWindow()) {
+        window->widget->setFocus();
+    }
 }
 
 bool HostWindow::PanelUp() const {

@@ -37,6 +37,11 @@ public:
     // Null when the bar is open already or its resource is missing.
     HWND OpenMenuBar(HWND owner, HINSTANCE instance, int id);
     void CloseMenuBar();
+    // The popup's handle as a message's answer; 0 for a button without one.
+    LRESULT MenuOfButton(int command) const;
+    // Keys go to the bar's buttons, or back to the program's top window.
+    void FocusMenuBar();
+    void FocusProgram();
 
     bool PanelUp() const;
     // Has sent WM_SETTINGCHANGE before it returns.

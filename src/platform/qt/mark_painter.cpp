@@ -22,7 +22,9 @@ public:
     }
     void operator()(const ArtMark& mark) const {
         const QRect area = scale.Area(mark.area);
-        painter.drawImage(area.topLeft(), RenderArt(mark.file, area.size()));
+        if (const QImage& art = RenderArt(mark.file, area.size()); !art.isNull()) {
+            painter.drawImage(area.topLeft(), art);
+        }
     }
     void operator()(const CopyMark& mark) const;
 

@@ -1,11 +1,14 @@
 #include "platform/qt/menu_bar.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
 #include <algorithm>
 
 #include "platform/qt/art.h"
 #include "platform/qt/host_window.h"
 #include "platform/qt/look.h"
+#include "platform/qt/menu_object.h"
 #include "platform/windows.h"
 
 namespace {
@@ -16,16 +19,38 @@ constexpr int pictureSize = 16;
 constexpr ArtResource panelArt{0, "menu_sip.svg", pictureSize, pictureSize};
 
 const ArtResource* FindArt(HINSTANCE instance, int image) {
-    const auto found = std::find_if(instance->art.begin(), instance->art.end(),
-                                    [image](const ArtResource& art) { return art.id == image; });
-    return found == instance->art.end() ? nullptr : &*found;
+    const auto& art = instance->menuBarArt;
+    const auto found = std::find_if(art.begin(), art.end(),
+                                    [image](const ArtResource& each) { return each.id == image; });
+    return found == art.end() ? nullptr : &*found;
 }
 
 }  // namespace
 
 BarButton::BarButton(QWidget* bar, HostWindow* parent, const ArtResource* picture)
     : QAbstractButton(bar), host(parent), art(picture) {
-    setFocusPolicy(Qt::NoFocus);
+    // A tap leaves the focus where it is; the keys of the menu bar give it to the buttons.
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void BarButton::keyPressEvent(QKeyEvent* event) {
+    auto* bar = qobject_cast<MenuBarWidget*>(parentWidget());
+    switch (event->key()) {
+        case Qt::Key_Left: bar->MoveFocus(-1); break;
+        case Qt::Key_Right: bar->MoveFocus(1); break;
+        case Qt::Key_Escape:
+        case Qt::Key_F10:
+        case Qt::Key_Alt: host->FocusProgram(); break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            host->FocusProgram();
+            click();
+            break;
+        default: QAbstractButton::keyPressEvent(event);
+    }
 }
 
 void BarButton::enterEvent(QEnterEvent*) {
@@ -42,6 +67,11 @@ void BarButton::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), pressedColor);
     } else if (isEnabled() && underMouse()) {
         painter.fillRect(rect(), hoverColor);
+    }
+    if (hasFocus()) {
+        const int width = std::max(1, qRound(host->Magnification()));
+        painter.setPen(QPen(titleBarColor, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(QRectF(rect()).adjusted(width, width, -width, -width));
     }
     if (art == nullptr) {
         return;
@@ -67,6 +97,7 @@ bool MenuBarWidget::Open(HWND window, HINSTANCE instance, int id) {
         return false;
     }
     owner = window;
+    barId = id;
     for (const MenuBarButton& button : found->buttons) {
         AddButton(button, instance);
     }
@@ -82,10 +113,55 @@ void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance)
     button->setAccessibleName(caption);
     button->setEnabled(resource.available);
     const int command = resource.command;
-    connect(button, &QAbstractButton::clicked, this,
-            [this, command] { PostMessageW(owner, WM_COMMAND, static_cast<WPARAM>(command), 0); });
+    HMENU menu = resource.popup == noPopup ? nullptr
+                                           : GetSubMenu(LoadMenuW(instance, barId), resource.popup);
+    popups[command] = menu;
+    connect(button, &QAbstractButton::clicked, this, [this, button, command, menu] {
+        PostMessageW(owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
+        OpenPopup(button, menu);
+    });
     button->show();
     buttons.push_back(button);
+}
+
+// Stands on the bar, above its button, inside the screen where it fits.
+void MenuBarWidget::OpenPopup(BarButton* button, HMENU menu) {
+    if (menu == nullptr) {
+        return;
+    }
+    QMenu* popup = PopupOf(menu, owner);
+    const QSize size = popup->sizeHint();
+    const int left = std::clamp(button->x(), 0, std::max(width() - size.width(), 0));
+    button->setDown(true);
+    connect(popup, &QMenu::aboutToHide, button, [button] { button->setDown(false); });
+    popup->popup(mapToGlobal(QPoint(left, -size.height())));
+}
+
+HMENU MenuBarWidget::MenuOfButton(int command) const {
+    const auto found = popups.find(command);
+    return found == popups.end() ? nullptr : found->second;
+}
+
+void MenuBarWidget::FocusFirstButton() {
+    for (BarButton* button : buttons) {
+        if (button->isEnabled()) {
+            button->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+void MenuBarWidget::MoveFocus(int step) {
+    std::vector<BarButton*> usable;
+    std::copy_if(buttons.begin(), buttons.end(), std::back_inserter(usable),
+                 [](BarButton* button) { return button->isEnabled(); });
+    if (panelButton != nullptr && panelButton->isVisible()) {
+        usable.push_back(panelButton);
+    }
+    const auto current = std::find(usable.begin(), usable.end(), QApplication::focusWidget());
+    const auto count = static_cast<int>(usable.size());
+    const auto next = (static_cast<int>(current - usable.begin()) + step + count) % count;
+    usable[static_cast<size_t>(next)]->setFocus(Qt::TabFocusReason);
 }
 
 void MenuBarWidget::AddPanelButton() {
@@ -104,6 +180,7 @@ void MenuBarWidget::Close() {
         button->deleteLater();
     }
     buttons.clear();
+    popups.clear();
     if (panelButton != nullptr) {
         panelButton->deleteLater();
         panelButton = nullptr;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtWidgets/QAbstractButton>
+#include <map>
 #include <vector>
 
 #include "platform/resources.h"
@@ -16,6 +17,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
@@ -37,6 +39,11 @@ public:
         return owner != nullptr;
     }
 
+    HMENU MenuOfButton(int command) const;
+    void FocusFirstButton();
+    // From the button that has the focus, to the right or left, around the ends.
+    void MoveFocus(int step);
+
     void ShowPanelButton(bool shown);
     void ShowPanelState(bool up);
 
@@ -47,10 +54,13 @@ protected:
 private:
     void AddButton(const MenuBarButton& button, HINSTANCE instance);
     void AddPanelButton();
+    void OpenPopup(BarButton* button, HMENU menu);
     void PlaceButtons();
 
     HostWindow* host;
     HWND owner = nullptr;
+    int barId = 0;
     std::vector<BarButton*> buttons;
+    std::map<int, HMENU> popups;  // by the button's command
     BarButton* panelButton = nullptr;
 };

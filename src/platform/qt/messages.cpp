@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 
+#include "platform/qt/host_window.h"
 #include "platform/qt/message_queue.h"
 #include "platform/qt/window.h"
 #include "platform/resources.h"
@@ -59,7 +60,8 @@ void DropMessagesOf(HWND window) {
 }
 
 LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return IsLiveWindow(window) ? Call(window, message, wParam, lParam) : 0;
+    const bool reachable = IsLiveWindow(window) || IsMenuBar(window);
+    return reachable ? Call(window, message, wParam, lParam) : 0;
 }
 
 BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -23,6 +23,11 @@ BOOL SHSipInfo(UINT action, UINT, void* record, UINT) {
     return TRUE;
 }
 
+BOOL SHSipPreference(HWND window, UINT state) {
+    Host().SetPanelUp(state == SIP_UP);
+    return IsLiveWindow(window);
+}
+
 BOOL SHHandleWMSettingChange(HWND window, WPARAM, LPARAM, SHACTIVATEINFO*) {
     if (!IsLiveWindow(window)) {
         return FALSE;

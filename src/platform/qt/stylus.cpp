@@ -5,7 +5,10 @@
 #include <QtCore/QTimer>
 #include <cstdlib>
 
+#include "platform/qt/hold_cue.h"
+#include "platform/qt/host_window.h"
 #include "platform/qt/message_queue.h"
+#include "platform/qt/window.h"
 #include "platform/shell.h"
 
 namespace {
@@ -77,17 +80,31 @@ void StylusReleased(HWND window, POINT point) {
     EndWatch();
 }
 
-DWORD SHRecognizeGesture(SHRGINFO*) {
+namespace {
+
+// Returns when the stylus has been held long enough, has moved away or was lifted.
+void WatchStylus(const SHRGINFO& gesture, int milliseconds) {
+    QEventLoop watch;
+    stylus.watch = &watch;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &watch, &QEventLoop::quit);
+    const RECT frame = gesture.hwndClient->frame;
+    const LONG x = frame.left + gesture.ptDown.x;
+    const LONG y = frame.top + gesture.ptDown.y;
+    const HoldCue cue(&Host(), Host().ExactPlace({x, y, x + 1, y + 1}).center(),
+                      Host().Magnification(), milliseconds);
+    watch.exec();
+    stylus.watch = nullptr;
+}
+
+}  // namespace
+
+DWORD SHRecognizeGesture(SHRGINFO* gesture) {
     if (CurrentMessage().heldAtOnce) {
         return GN_CONTEXTMENU;
     }
-    const auto left = holdMilliseconds - stylus.sincePress.elapsed();
+    const auto left = static_cast<int>(holdMilliseconds - stylus.sincePress.elapsed());
     if (stylus.down && !stylus.moved && left > 0) {
-        QEventLoop watch;
-        stylus.watch = &watch;
-        QTimer::singleShot(static_cast<int>(left), Qt::PreciseTimer, &watch, &QEventLoop::quit);
-        watch.exec();
-        stylus.watch = nullptr;
+        WatchStylus(*gesture, left);
     }
     if (!stylus.down || stylus.moved) {
         return 0;

@@ -1,0 +1,15 @@
+# Building a preset. To be sourced; works in the project's folder.
+
+# A build folder that was made elsewhere and moved here cannot be used.
+is_configured() {
+    [[ -e build/$1/build.ninja ]] &&
+        grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$1/CMakeCache.txt"
+}
+
+build_preset() {
+    echo "Building: $1"
+    if ! is_configured "$1"; then
+        cmake --preset "$1" --fresh --log-level=WARNING
+    fi
+    cmake --build --preset "$1"
+}

@@ -1,0 +1,126 @@
+// Menus: the toolkit's own popups over the program's menu resources.
+#include "platform/menus.h"
+
+#include <QtWidgets/QApplication>
+#include <algorithm>
+#include <map>
+
+#include "platform/qt/host_window.h"
+#include "platform/qt/look.h"
+#include "platform/qt/menu_object.h"
+#include "platform/windows.h"
+
+namespace {
+
+MenuItem* FindItem(MenuObject* menu, int command) {
+    for (MenuItem& item : menu->items) {
+        if (item.submenu != nullptr) {
+            if (MenuItem* found = FindItem(item.submenu.get(), command)) {
+                return found;
+            }
+        } else if (item.resource->text != nullptr && item.resource->command == command) {
+            return &item;
+        }
+    }
+    return nullptr;
+}
+
+void AddCommand(QMenu* popup, MenuItem& item, HWND window) {
+    item.action = popup->addAction(QString::fromUtf16(item.resource->text));
+    item.action->setCheckable(item.checked);
+    item.action->setChecked(item.checked);
+    item.action->setEnabled(item.resource->available);
+    const int command = item.resource->command;
+    QObject::connect(item.action, &QAction::triggered, popup, [window, command] {
+        PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(command), 0);
+    });
+}
+
+void FillPopup(QMenu* popup, MenuObject* menu, HWND window) {
+    for (MenuItem& item : menu->items) {
+        if (item.submenu != nullptr) {
+            QMenu* submenu = popup->addMenu(QString::fromUtf16(item.resource->text));
+            FillPopup(submenu, item.submenu.get(), window);
+            submenu->setEnabled(
+                std::any_of(item.submenu->items.begin(), item.submenu->items.end(),
+                            [](const MenuItem& inner) { return inner.resource->available; }));
+        } else if (item.resource->text != nullptr) {
+            AddCommand(popup, item, window);
+        } else {
+            popup->addSeparator();
+        }
+    }
+}
+
+void SizeWithScreen(QMenu* popup) {
+    constexpr double em = 11;
+    const QFont font = BarFont(em * Host().Magnification(), false);
+    popup->setFont(font);
+    for (QMenu* submenu : popup->findChildren<QMenu*>()) {
+        submenu->setFont(font);
+    }
+}
+
+}  // namespace
+
+MenuObject::MenuObject(std::span<const MenuItemResource> resources) {
+    for (const MenuItemResource& resource : resources) {
+        MenuItem item(&resource);
+        if (!resource.submenu.empty()) {
+            item.submenu = std::make_unique<MenuObject>(resource.submenu);
+        }
+        items.push_back(std::move(item));
+    }
+}
+
+HMENU LoadMenuW(HINSTANCE instance, int id) {
+    // Loaded menus are shared: their check marks belong to the program, not to one popup.
+    static std::map<int, std::unique_ptr<MenuObject>> menus;
+    auto& menu = menus[id];
+    if (menu == nullptr) {
+        const auto found = std::find_if(instance->menus.begin(), instance->menus.end(),
+                                        [id](const MenuResource& each) { return each.id == id; });
+        if (found != instance->menus.end()) {
+            menu = std::make_unique<MenuObject>(found->popups);
+        }
+    }
+    return menu.get();
+}
+
+HMENU GetSubMenu(HMENU menu, int position) {
+    const bool exists =
+        menu != nullptr && position >= 0 && static_cast<size_t>(position) < menu->items.size();
+    return exists ? menu->items[static_cast<size_t>(position)].submenu.get() : nullptr;
+}
+
+DWORD CheckMenuItem(HMENU menu, UINT command, UINT flags) {
+    MenuItem* item = menu == nullptr ? nullptr : FindItem(menu, static_cast<int>(command));
+    if (item == nullptr) {
+        return 0xFFFFFFFF;
+    }
+    const DWORD previous = item->checked ? MF_CHECKED : MF_UNCHECKED;
+    item->checked = (flags & MF_CHECKED) != 0;
+    if (item->action != nullptr) {
+        item->action->setCheckable(item->checked);
+        item->action->setChecked(item->checked);
+    }
+    return previous;
+}
+
+QMenu* PopupOf(HMENU menu, HWND window) {
+    if (menu->popup == nullptr) {
+        menu->popup = new QMenu(&Host());
+        FillPopup(menu->popup, menu, window);
+    }
+    SizeWithScreen(menu->popup);
+    return menu->popup;
+}
+
+BOOL TrackPopupMenuEx(HMENU menu, UINT, int x, int y, HWND window, void*) {
+    if (menu == nullptr) {
+        return FALSE;
+    }
+    const QPointF corner = Host().ExactPlace({x, y, x, y}).topLeft();
+    PopupOf(menu, window)->exec(Host().mapToGlobal(corner).toPoint());
+    return TRUE;
+}

@@ -1,0 +1,207 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <string>
+
+#include "platform/dialogs.h"
+#include "platform/qt/device_paths.h"
+#include "storage/paths.h"
+#include "support/played_board.h"
+
+namespace {
+
+class Files : public testing::Test {
+protected:
+    static HANDLE OpenToWrite(const char16_t* path) {
+        return CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
+                           nullptr);
+    }
+    static HANDLE OpenToRead(const char16_t* path) {
+        return CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                           nullptr);
+    }
+    static bool Write(HANDLE file, const std::string& bytes) {
+        DWORD count = 0;
+        const BOOL written =
+            WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+        return written && count == bytes.size();
+    }
+
+    TemporaryHome home;
+};
+
+TEST_F(Files, LiveWhereTheirDevicePathsSay) {
+    WriteBytes(home.documents() / "a b.puz", "document");
+    WriteBytes(home.programFolder() / "quadrel.dat", "state");
+    WriteBytes(home.root() / "elsewhere.puz", "other");
+    std::u16string elsewhere = (home.root() / "elsewhere.puz").u16string();
+    std::replace(elsewhere.begin(), elsewhere.end(), u'/', u'\\');
+    const std::pair<std::u16string, std::string> files[] = {
+        {u"\\My Documents\\a b.puz", "document"},
+        {u"\\my documents\\a b.puz", "document"},
+        {u"\\Program Files\\Quadrel\\quadrel.dat", "state"},
+        {elsewhere, "other"}};
+    for (const auto& [path, content] : files) {
+        HANDLE file = OpenToRead(path.c_str());
+        ASSERT_NE(file, INVALID_HANDLE_VALUE);
+        char buffer[100];
+        DWORD count = 0;
+        EXPECT_TRUE(ReadFile(file, buffer, sizeof buffer, &count, nullptr));
+        EXPECT_EQ(std::string(buffer, count), content);
+        EXPECT_TRUE(ReadFile(file, buffer, sizeof buffer, &count, nullptr));
+        EXPECT_EQ(count, 0u);
+        EXPECT_TRUE(CloseHandle(file));
+    }
+    EXPECT_EQ(ToDevicePath(QString::fromStdString((home.documents() / "a b.puz").string())),
+              u"\\My Documents\\a b.puz");
+    EXPECT_EQ(ToDevicePath(QString::fromStdString((home.root() / "elsewhere.puz").string())),
+              elsewhere);
+}
+
+TEST_F(Files, WhatIsNoFileCannotBeOpened) {
+    std::filesystem::create_directory(home.documents() / "folder.puz");
+    for (const char16_t* path : {u"", u"plain.puz", u"\\My Documents\\missing.puz",
+                                 u"\\My Documents\\folder.puz", u"\\My Documents\\"}) {
+        EXPECT_EQ(OpenToRead(path), INVALID_HANDLE_VALUE);
+    }
+    for (const char16_t* path : {u"", u"plain.dat", u"\\My Documents\\folder.puz",
+                                 u"\\My Documents\\no such folder\\a.dat", u"\\proc\\a.dat"}) {
+        EXPECT_EQ(OpenToWrite(path), INVALID_HANDLE_VALUE);
+    }
+    const std::u16string tooLong = u"\\My Documents\\" + std::u16string(250, u'a');
+    EXPECT_EQ(OpenToWrite(tooLong.c_str()), INVALID_HANDLE_VALUE);
+    EXPECT_FALSE(CloseHandle(INVALID_HANDLE_VALUE));
+}
+
+// Faults: the old file is emptied at the start of a write, or a part of the new one is seen.
+TEST_F(Files, AWriteShowsOnlyWhenItIsClosed) {
+    WriteBytes(home.stateFile(), "the old state");
+    HANDLE file = OpenToWrite(u"\\Program Files\\Quadrel\\quadrel.dat");
+    EXPECT_TRUE(Write(file, std::string(50000, 'n')));
+    EXPECT_EQ(ReadBytes(home.stateFile()), "the old state");
+    EXPECT_TRUE(CloseHandle(file));
+    EXPECT_EQ(ReadBytes(home.stateFile()), std::string(50000, 'n'));
+    EXPECT_EQ(home.Files().size(), 1u) << "a temporary file was left behind";
+}
+
+TEST_F(Files, AKilledProcessLeavesTheOldFileWhole) {
+    WriteBytes(home.stateFile(), "the old state");
+    const pid_t child = fork();
+    if (child == 0) {
+        Write(OpenToWrite(u"\\Program Files\\Quadrel\\quadrel.dat"), std::string(50000, 'n'));
+        _exit(0);
+    }
+    waitpid(child, nullptr, 0);
+    EXPECT_EQ(ReadBytes(home.stateFile()), "the old state");
+}
+
+// As on a full disk, files of this process can grow no further.
+class NoSpace {
+public:
+    NoSpace() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit tight{1000, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &tight);
+    }
+    ~NoSpace() {
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, SIG_DFL);
+    }
+    NoSpace(const NoSpace&) = delete;
+    NoSpace& operator=(const NoSpace&) = delete;
+
+private:
+    rlimit before{};
+};
+
+TEST_F(Files, AFullDiskKeepsTheOldFileAndSaysSo) {
+    for (std::size_t size : {4096u, 50000u}) {
+        WriteBytes(home.stateFile(), "the old state");
+        BOOL closed = TRUE;
+        bool written = true;
+        {
+            const NoSpace full;
+            HANDLE file = OpenToWrite(u"\\Program Files\\Quadrel\\quadrel.dat");
+            written = Write(file, std::string(size, 'n'));
+            closed = CloseHandle(file);
+        }
+        EXPECT_FALSE(written && closed);
+        EXPECT_EQ(ReadBytes(home.stateFile()), "the old state");
+        EXPECT_EQ(home.Files().size(), 1u) << "a temporary file was left behind";
+    }
+}
+
+TEST_F(Files, FoldersAndDeletionsAnswerHonestly) {
+    EXPECT_TRUE(CreateDirectoryW(u"\\My Documents\\Quadrel Puzzles", nullptr));
+    EXPECT_FALSE(CreateDirectoryW(u"\\My Documents\\Quadrel Puzzles", nullptr));
+    EXPECT_FALSE(DeleteFileW(u"\\My Documents\\Quadrel Puzzles"));
+    EXPECT_FALSE(DeleteFileW(u"\\My Documents\\missing.dat"));
+    WriteBytes(home.documents() / "a.dat", "x");
+    EXPECT_TRUE(DeleteFileW(u"\\My Documents\\a.dat"));
+    EXPECT_FALSE(std::filesystem::exists(home.documents() / "a.dat"));
+}
+
+TEST_F(Files, SearchesFindTheFirstUsableName) {
+    WIN32_FIND_DATAW found;
+    EXPECT_EQ(FindFirstFileW(u"\\My Documents\\*.puz", &found), nullptr);
+    WriteBytes(home.documents() / "a\\b.puz", "no name for the device");
+    WriteBytes(home.documents() / "z.puz", "");
+    WriteBytes(home.documents() / "b.PuZ", "");
+    WriteBytes(home.documents() / "a.puz.txt", "");
+    HFIND search = FindFirstFileW(u"\\My Documents\\*.puz", &found);
+    ASSERT_NE(search, nullptr);
+    EXPECT_EQ(std::u16string(found.cFileName), u"b.PuZ");
+    EXPECT_EQ(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY, 0u);
+    EXPECT_TRUE(FindClose(search));
+}
+
+class ChosenNames : public PlayedBoard {
+protected:
+    void ExpectRefused(const std::filesystem::path& file) {
+        WriteBytes(file, PuzzleBytes(squareBoard));
+        ChooseNextFile(file);
+        ChooseNextFile({});
+        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+        const auto messages = TakeShownMessages();
+        ASSERT_EQ(messages.size(), 1u) << file;
+        EXPECT_EQ(messages[0].title, u"Open File");
+        EXPECT_NE(messages[0].text.find(u"cannot be used"), std::u16string::npos);
+        EXPECT_EQ(PuzzleWidth, 3);
+    }
+};
+
+TEST_F(ChosenNames, WithoutADevicePathAreExplained) {
+    ExpectRefused(home.documents() / "back\\slash.puz");
+    std::filesystem::path deep = home.root();
+    for (int i = 0; i < 4; ++i) {
+        deep /= std::string(60, static_cast<char>('a' + i));
+    }
+    std::filesystem::create_directories(deep);
+    ExpectRefused(deep / "deep.puz");
+}
+
+// Accents and characters beyond the basic plane come back from the record as they were.
+TEST_F(ChosenNames, OfEveryLanguageAreRemembered) {
+    const std::filesystem::path name(u"R\u00E4tsel \u8C1C \U0001F9E9.puz");
+    WriteBytes(home.documents() / name, PuzzleBytes(squareBoard));
+    ChooseNextFile(home.documents() / name);
+    AnswerNextMessageBox(IDYES);
+    EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+    EXPECT_EQ(TakeShownMessages()[0].text,
+              u"Do you want to load the puzzle " + name.u16string() + u" ?");
+    EXPECT_EQ(PuzzleWidth, 6);
+    handheld->Type("XYZ");
+    handheld.reset();
+    ForgetPuzzle();
+    handheld = std::make_unique<Handheld>(home);
+    EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\" + name.u16string());
+    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+}
+
+}  // namespace
