@@ -9,7 +9,7 @@ is_configured() {
 build_preset() {
     echo "Building: $1"
     if ! is_configured "$1"; then
-        cmake --preset "$1" --fresh --log-level=WARNING
+        cmake --preset "$1" --fresh >/dev/null
     fi
     cmake --build --preset "$1"
 }

@@ -76,8 +76,10 @@ TEST_F(Input, HoldingSelectsAndItsReleaseDoesNothing) {
     EXPECT_GE(held, std::chrono::milliseconds(590));
     EXPECT_EQ(Direction, 0);
     EXPECT_EQ(TapHoldActive, 0);
+    EXPECT_EQ(TakeOpenedMenus(), 1);
     handheld->TapCell(3, 5);
     EXPECT_EQ(Direction, 1);
+    EXPECT_EQ(TakeOpenedMenus(), 0);
 }
 
 TEST_F(Input, ATremblingHandHoldsAndAMovingOneDrags) {

@@ -1,90 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <random>
 #include <set>
+#include <vector>
 
 #include "board/board_painter.h"
-#include "platform/canvas.h"
-#include "platform/qt/surface.h"
 #include "support/played_board.h"
 
 namespace {
 
 class Sharpness : public PlayedBoard {};
-
-// A little of everything, and enough to make a surface forget what is hidden.
-void Scribble(HDC context, unsigned seed) {
-    std::mt19937 random(seed);
-    const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
-    for (int i = 0; i < 150; ++i) {
-        const HPEN pen = CreatePen(PS_SOLID, 1, random() & 0xFFFFFF);
-        const HBRUSH brush = CreateSolidBrush(random() & 0xFFFFFF);
-        HGDIOBJ oldPen = SelectObject(context, pen);
-        HGDIOBJ oldBrush = SelectObject(context, brush);
-        RECT box{below(60), below(50), 0, 0};
-        box.right = box.left + below(60);
-        box.bottom = box.top + below(50);
-        const POINT line[] = {{box.left, box.top}, {box.right, box.top}};
-        switch (below(5)) {
-            case 0:
-                Rectangle(context, box.left, box.top, box.right, box.bottom);
-                break;
-            case 1:
-                RoundRect(context, box.left, box.top, box.right, box.bottom, 6, 6);
-                break;
-            case 2:
-                Polyline(context, line, 2);
-                break;
-            case 3:
-                PatBlt(context, box.left, box.top, below(30), below(30), WHITENESS);
-                break;
-            default:
-                DrawTextW(context, u"Words", -1, &box, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-        }
-        SelectObject(context, oldPen);
-        SelectObject(context, oldBrush);
-        DeleteObject(pen);
-        DeleteObject(brush);
-    }
-}
-
-class Redrawn : public testing::TestWithParam<double> {
-protected:
-    ~Redrawn() override {
-        Surface::SetRatioOfAll(1);
-    }
-};
-
-// Faults: enlarged pixels instead of a fresh drawing, marks forgotten that can still be seen.
-TEST_P(Redrawn, SurfacesLookAsIfDrawnAtTheNewRatio) {
-    for (unsigned seed = 1; seed <= 8; ++seed) {
-        Surface::SetRatioOfAll(1);
-        Canvas early(70, 60);
-        Scribble(early.context, seed);
-        Surface::SetRatioOfAll(GetParam());
-        Canvas late(70, 60);
-        Scribble(late.context, seed);
-        EXPECT_EQ(early.Image(), late.Image()) << "seed " << seed;
-    }
-}
-
-TEST_P(Redrawn, CopiesCarryWhatTheyCopied) {
-    Surface::SetRatioOfAll(1);
-    Canvas target(70, 60);
-    const auto copyFrom = [](Canvas& to, unsigned seed, int x, int y) {
-        Canvas source(70, 60);
-        Scribble(source.context, seed);
-        BitBlt(to.context, 7, 5, 50, 45, source.context, x, y, SRCCOPY);
-        Scribble(source.context, seed + 1);  // must not be seen in the copy
-    };
-    copyFrom(target, 3, 0, 0);
-    Surface::SetRatioOfAll(GetParam());
-    Canvas late(70, 60);
-    copyFrom(late, 3, 0, 0);
-    EXPECT_EQ(target.Image(), late.Image());
-}
-
-INSTANTIATE_TEST_SUITE_P(Ratios, Redrawn, testing::Values(2.0, 3.0, 1.37, 2.5));
 
 // The same play at one size and at another, then made equal: the same picture everywhere.
 TEST_F(Sharpness, AResizedScreenIsTheScreenOfThatSize) {

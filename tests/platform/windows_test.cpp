@@ -140,12 +140,6 @@ TEST_F(Windows, ASecondStartEndsAtOnceAndLeavesTheFirst) {
     EXPECT_TRUE(handheld->Running());
 }
 
-TEST_F(Windows, UnavailableButtonsCannotBePressed) {
-    for (const char* tooltip : {"Main Menu", "Open the clue list", "Puzzle magnification"}) {
-        EXPECT_FALSE(handheld->PressButton(tooltip)) << tooltip;
-    }
-}
-
 TEST_F(Windows, MessagesForAWindowThatIsGoneAreDropped) {
     HWND window = OpenCounter();
     PostMessageW(window, WM_TIMER, 1, 0);

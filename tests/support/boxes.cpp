@@ -4,6 +4,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <deque>
@@ -16,7 +17,9 @@ namespace {
 
 std::deque<int> plannedAnswers;
 std::deque<std::filesystem::path> plannedFiles;
+std::deque<QString> plannedItems;
 std::vector<ShownMessage> shownMessages;
+int openedMenus = 0;
 std::function<void()> duringNextBox;
 
 QMessageBox::StandardButton ButtonFor(int answer) {
@@ -57,6 +60,28 @@ void Answer(QFileDialog* dialog) {
     QMetaObject::invokeMethod(dialog, "accept");
 }
 
+QAction* FindItem(const QMenu* menu, const QString& text) {
+    for (QAction* action : menu->actions()) {
+        QAction* found = action->menu() != nullptr ? FindItem(action->menu(), text)
+                         : action->text() == text  ? action
+                                                   : nullptr;
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+void Answer(QMenu* menu) {
+    ++openedMenus;
+    const QString text = TakeNext(plannedItems, QString());
+    QAction* action = text.isEmpty() ? nullptr : FindItem(menu, text);
+    menu->close();
+    if (action != nullptr) {
+        action->trigger();
+    }
+}
+
 class BoxWatcher : public QObject {
 public:
     using QObject::QObject;
@@ -67,6 +92,8 @@ public:
                 QTimer::singleShot(0, box, [box] { Answer(box); });
             } else if (auto* dialog = qobject_cast<QFileDialog*>(object)) {
                 QTimer::singleShot(0, dialog, [dialog] { Answer(dialog); });
+            } else if (auto* menu = qobject_cast<QMenu*>(object)) {
+                QTimer::singleShot(0, menu, [menu] { Answer(menu); });
             }
         }
         return false;
@@ -93,4 +120,12 @@ std::vector<ShownMessage> TakeShownMessages() {
 
 void ChooseNextFile(const std::filesystem::path& file) {
     plannedFiles.push_back(file);
+}
+
+void ChooseNextMenuItem(const std::u16string& text) {
+    plannedItems.push_back(QString::fromStdU16String(text));
+}
+
+int TakeOpenedMenus() {
+    return std::exchange(openedMenus, 0);
 }

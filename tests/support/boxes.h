@@ -1,4 +1,4 @@
-// Makes every message box and chooser of this process answer as planned in message_boxes.h.
+// Makes every message box, chooser and menu of this process answer as planned in message_boxes.h.
 #pragma once
 
 // Called once, with the application object in place.

@@ -1,4 +1,4 @@
-// Answering the real message boxes and choosers of a program under test.
+// Answering the real message boxes, choosers and menus of a program under test.
 #pragma once
 
 #include <filesystem>
@@ -25,3 +25,10 @@ std::vector<ShownMessage> TakeShownMessages();
 // The file that the next file chooser is given; an empty path cancels it, and so does having
 // planned nothing.
 void ChooseNextFile(const std::filesystem::path& file);
+
+// The text of the item that the next popup menu is asked for, in a submenu too; an empty one closes
+// the menu, and so does having planned nothing.
+void ChooseNextMenuItem(const std::u16string& text);
+
+// How many popup menus were opened since the last call.
+int TakeOpenedMenus();

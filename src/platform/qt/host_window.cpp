@@ -1,17 +1,18 @@
 #include "platform/qt/host_window.h"
 
+#include <QtCore/QTimer>
 #include <QtCore/QtMath>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "platform/menus.h"
 #include "platform/qt/art.h"
 #include "platform/qt/client_view.h"
 #include "platform/qt/endings.h"
-#include "platform/qt/font_warm_up.h"
 #include "platform/qt/icon_object.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_bar.h"
@@ -95,14 +96,11 @@ void HostWindow::SetLook(const std::u16string& title, HICON icon) {
     const QString text = QString::fromStdU16String(title);
     setWindowTitle(text);
     titleBar->SetTitle(text);
-    if (icon != nullptr) {
-        setWindowIcon(ToQIcon(icon));
-    }
+    iconToShow = icon;
 }
 
 void HostWindow::ShowIfHidden() {
     if (!isVisible()) {
-        AwaitFonts();
         FitScreen();
         show();
     }
@@ -189,6 +187,10 @@ void HostWindow::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), letterboxColor);
     painter.fillRect(ExactPlace({0, 0, screenWidth, screenHeight}), Qt::white);
+    // Behind the first frame: nobody should wait for the game because of its icon.
+    if (HICON icon = std::exchange(iconToShow, nullptr)) {
+        QTimer::singleShot(0, this, [this, icon] { setWindowIcon(ToQIcon(icon)); });
+    }
 }
 
 // The window closes when the program destroys it, after everything is saved.

@@ -61,6 +61,7 @@ private:
 
     double magnification = 1;
     QPointF screenOrigin;
+    HICON iconToShow = nullptr;
     TitleBar* titleBar;
     MenuBarWidget* menuBar;
     SoftInputPanel* panel;

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "platform/qt/font_warm_up.h"
+
 QFont BarFont(double pixelSize, bool bold) {
+    AwaitFonts();
     QFont font;
     font.setFamilies({"Liberation Sans", "Arial", "Noto Sans", "DejaVu Sans", "sans-serif"});
     font.setPixelSize(std::max(qRound(pixelSize), 1));

@@ -1,4 +1,4 @@
-// The colours of the handheld's own parts.
+// The colours of the handheld's own parts, and its face.
 #pragma once
 
 #include <QtGui/QColor>
@@ -16,5 +16,5 @@ inline const QColor panelColor(0xC6, 0xCD, 0xD4);
 inline const QColor keyColor(0xFF, 0xFF, 0xFF);
 inline const QColor specialKeyColor(0xE3, 0xE8, 0xEC);
 
-// The face of the bars and the panel, by its em in the widget's own pixels.
+// The face of all text, by its em in the pixels of whatever it is drawn on.
 QFont BarFont(double pixelSize, bool bold);

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "platform/drawing.h"
+#include "platform/qt/look.h"
 
 namespace {
 
@@ -61,10 +62,7 @@ QString ToQString(const std::u16string& text) {
 }
 
 QFont MakeFont(const FontChoice& choice, int pixelSize) {
-    QFont font;
-    font.setFamilies({"Liberation Sans", "Arial", "Noto Sans", "DejaVu Sans", "sans-serif"});
-    font.setPixelSize(std::max(pixelSize, 1));
-    font.setBold(choice.bold);
+    QFont font = BarFont(pixelSize, choice.bold);
     font.setKerning(false);
     font.setHintingPreference(QFont::PreferFullHinting);
     return font;
