@@ -2,7 +2,7 @@
 # To be sourced.
 
 build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev)
-run_packages=(fonts-liberation qt6-wayland)
+run_packages=(fonts-liberation fonts-dejavu-core qt6-wayland)
 test_packages=(libgtest-dev xvfb xdotool openbox imagemagick)
 
 missing_packages() {

@@ -63,8 +63,13 @@ QString ToQString(const std::u16string& text) {
 
 QFont MakeFont(const FontChoice& choice, int pixelSize) {
     QFont font = BarFont(pixelSize, choice.bold);
+    if (choice.face == FontChoice::Face::Small) {
+        // Its digits can be told apart at seven pixels.
+        font.setFamilies(QStringList("DejaVu Sans") + font.families());
+    }
     font.setKerning(false);
-    font.setHintingPreference(QFont::PreferFullHinting);
+    // Sharp horizontals, and the spacing that the face was made with: readable at seven pixels.
+    font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;
 }
 
@@ -80,7 +85,8 @@ SizedFont MakeSizedFont(const FontChoice& choice, double ratio) {
     sized.pixelSize = std::max(1, qRound(em * ratio));
     sized.font = MakeFont(choice, sized.pixelSize);
     const QFontMetricsF metrics(sized.font);
-    sized.ascent = qRound(metrics.ascent());
+    // Rounded up, as a whole pixel row belongs to the leading: small numbers keep off the outline.
+    sized.ascent = static_cast<int>(std::ceil(metrics.ascent()));
     sized.capHeight = qRound(metrics.capHeight());
     sized.solidAscent = static_cast<int>(std::ceil(sized.pixelSize * solidAscentPerEm));
     sized.solidPitch = static_cast<int>(std::ceil(sized.pixelSize * solidPitchPerEm));
