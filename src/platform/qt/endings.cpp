@@ -7,7 +7,6 @@
 #include <QtGui/QGuiApplication>
 #include <QtWidgets/QApplication>
 #include <csignal>
-#include <cstdlib>
 
 #include "platform/qt/message_queue.h"
 #include "platform/qt/window.h"
@@ -16,6 +15,8 @@ namespace {
 
 // A signal handler may do little more than write a byte; the event loop reads it.
 int signalPair[2] = {-1, -1};
+
+QtMessageHandler previousHandler = nullptr;
 
 void OnSignal(int) {
     const char byte = 0;
@@ -55,6 +56,16 @@ void EndWithSession() {
     }
 }
 
+// When the display server goes away, the toolkit says so and then ends the process on the spot.
+// These words are all the notice there is.
+void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    previousHandler(type, context, message);
+    if (message.startsWith("The X11 connection broke") ||
+        message.startsWith("The Wayland connection broke")) {
+        CloseNow();
+    }
+}
+
 void CloseEverythingAbove() {
     while (QWidget* popup = QApplication::activePopupWidget()) {
         if (!popup->close()) {
@@ -74,8 +85,7 @@ void WatchForEndings() {
     WatchSignals();
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, EndWithSession,
                      Qt::DirectConnection);
-    // When the display server goes away the toolkit calls exit() from inside the event loop.
-    std::atexit(CloseNow);
+    previousHandler = qInstallMessageHandler(OnToolkitMessage);
 }
 
 void AskProgramToEnd() {

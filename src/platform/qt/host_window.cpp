@@ -59,6 +59,7 @@ HostWindow::HostWindow()
     menuBar->hide();
     panel->hide();
     resize(StartSize());
+    FitScreen();
 }
 
 // The largest whole magnification that leaves the desktop around it in sight; a screen that is

@@ -219,6 +219,5 @@ BOOL SetForegroundWindow(HWND window) {
 }
 
 void ShowNow() {
-    Host().repaint();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
 }
