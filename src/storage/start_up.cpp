@@ -56,6 +56,8 @@ void SetDefaultPuzzle() {
     PuzzleHeight = PuzzleWidth = usualSize;
     ResetPlayerGrid = 1;
     CurrentPuzzlePath[0] = 0;
+    // No cell has a word, or a clue to show, before a puzzle is parsed.
+    std::fill(std::begin(Cells), std::end(Cells), CellRecord{-1, -1, -1});
 }
 
 // A program file of another name still lies in its folder.

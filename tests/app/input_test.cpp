@@ -71,6 +71,7 @@ TEST_F(Input, HoldingSelectsAndItsReleaseDoesNothing) {
     const int x = BoardLeft + 5 * CellSize + 8;
     const int y = 3 * CellSize + 8;
     const auto start = std::chrono::steady_clock::now();
+    TakeOpenedMenus();
     handheld->Hold(x, y);
     const auto held = std::chrono::steady_clock::now() - start;
     EXPECT_GE(held, std::chrono::milliseconds(590));

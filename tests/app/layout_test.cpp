@@ -13,7 +13,8 @@ namespace {
 constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
 
 BoardRows SquareBoard(int side) {
-    BoardRows rows(static_cast<std::size_t>(side), std::string(static_cast<std::size_t>(side), 'A'));
+    BoardRows rows(static_cast<std::size_t>(side),
+                   std::string(static_cast<std::size_t>(side), 'A'));
     rows.back()[0] = '.';
     return rows;
 }

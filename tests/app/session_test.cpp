@@ -47,8 +47,8 @@ const std::string emptyGrid =
 // Says where two files part; thousands of bytes in a message help nobody.
 void ExpectSameBytes(const std::string& actual, const std::string& expected) {
     EXPECT_EQ(actual.size(), expected.size());
-    const auto parting = std::mismatch(actual.begin(), actual.end(), expected.begin(),
-                                       expected.end());
+    const auto parting =
+        std::mismatch(actual.begin(), actual.end(), expected.begin(), expected.end());
     EXPECT_TRUE(actual == expected) << "first at offset " << parting.first - actual.begin();
 }
 
@@ -87,18 +87,18 @@ const std::string playedGrid =
 
 // Every way of entering and moving once, and the grid it must leave.
 void PlayAlong(Handheld& handheld) {
-    handheld.Type("XYZW");                 // the word is full: its last letter is replaced
-    handheld.Press(Qt::Key_Backspace);     // erases it and steps back
-    handheld.Press(Qt::Key_Return);        // down
-    handheld.Type("G");                    // over the Y
-    handheld.Press(Qt::Key_Right);         // the next word down starts in the third column
-    handheld.Type("H");                    //
-    handheld.Press(Qt::Key_Left);          // back to the second
-    handheld.TapCell(3, 4);                //
-    handheld.Type("AB");                   // down still
-    handheld.TapCell(5, 4);                // the selected one: across
+    handheld.Type("XYZW");                  // the word is full: its last letter is replaced
+    handheld.Press(Qt::Key_Backspace);      // erases it and steps back
+    handheld.Press(Qt::Key_Return);         // down
+    handheld.Type("G");                     // over the Y
+    handheld.Press(Qt::Key_Right);          // the next word down starts in the third column
+    handheld.Type("H");                     //
+    handheld.Press(Qt::Key_Left);           // back to the second
+    handheld.TapCell(3, 4);                 //
+    handheld.Type("AB");                    // down still
+    handheld.TapCell(5, 4);                 // the selected one: across
     handheld.Commit(QString(QChar(0xE9)));  // e with an accent
-    handheld.Type("1 ");                   // no letters
+    handheld.Type("1 ");                    // no letters
 }
 
 TEST_F(Session, LeavesItsGridAndItsStateFile) {
@@ -176,10 +176,10 @@ TEST_F(Session, StartsWithTheFirstPuzzleOfTheDocuments) {
 TEST_F(Session, WithoutAnyPuzzleSaysSoAndTakesEverythingCalmly) {
     std::filesystem::remove(home.documents() / "first.puz");
     Handheld& handheldWithoutPuzzle = Start();
-    EXPECT_EQ(TakeShownMessages(),
-              (std::vector<ShownMessage>{
-                  {u"Please choose a puzzle file from the Available Puzzles option.",
-                   u"Choose File"}}));
+    EXPECT_EQ(
+        TakeShownMessages(),
+        (std::vector<ShownMessage>{
+            {u"Please choose a puzzle file from the Available Puzzles option.", u"Choose File"}}));
     EXPECT_TRUE(handheldWithoutPuzzle.Running());
     const QImage bar = handheldWithoutPuzzle.Client().copy(0, 248, 240, 20);
     QImage white(bar.size(), bar.format());
@@ -227,8 +227,7 @@ TEST_F(Session, StateFilesFromElsewhereDoNoHarm) {
 
 // Nothing was asked for and nothing may be lost: the state that cannot be written stays as it was.
 TEST_F(Session, EveryWayOfEndingWritesTheState) {
-    const std::string expected =
-        Record(firstPath, 6, "B" + emptyGrid.substr(1), "0", "0", "0");
+    const std::string expected = Record(firstPath, 6, "B" + emptyGrid.substr(1), "0", "0", "0");
     const std::vector<void (*)(Handheld&)> endings = {
         [](Handheld& running) { running.Close(); },
         [](Handheld& running) { running.Press(Qt::Key_Q, Qt::ControlModifier); },

@@ -106,7 +106,9 @@ TEST_F(BoardTap, MarginsOfLargerBoardsSelectNothing) {
         Play(lopsidedBoard, size);
         const int right = BoardLeft + 7 * CellSize;
         const int bottom = 5 * CellSize;
-        const POINT margins[] = {{BoardLeft - 1, 30}, {right, 30}, {BoardLeft + 30, bottom}};
+        // The third row is followed by a cell that could be selected.
+        const POINT margins[] = {
+            {BoardLeft - 1, 30}, {right, 2 * CellSize + 5}, {BoardLeft + 30, bottom}};
         for (POINT margin : margins) {
             handheld->TapCell(3, 5);
             ExpectNothingSelectedAt(margin.x, margin.y);

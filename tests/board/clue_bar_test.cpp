@@ -1,8 +1,9 @@
+#include "board/clue_bar.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "board/clue_bar.h"
 #include "platform/drawing.h"
 #include "platform/windows.h"
 #include "support/played_board.h"

@@ -27,10 +27,11 @@ bool IsGrey(COLORREF color) {
     return GetRValue(color) == GetGValue(color) && GetGValue(color) == GetBValue(color);
 }
 
+// Thin strokes are not quite black; red and the highlight's colours are bright in one part.
 bool HasBlack(const std::vector<COLORREF>& ink) {
-    return std::find_if(ink.begin(), ink.end(), [](COLORREF color) {
-               return IsGrey(color) && GetRValue(color) < 100;
-           }) != ink.end();
+    return std::any_of(ink.begin(), ink.end(), [](COLORREF color) {
+        return std::max({GetRValue(color), GetGValue(color), GetBValue(color)}) < 160;
+    });
 }
 
 // Faults: row and column swapped, outlines not shared or doubled, a bevel one pixel short or on

@@ -71,10 +71,9 @@ TEST_F(Drawing, LinesLeaveOutTheirLastPointFromEitherEnd) {
         EXPECT_TRUE(Polyline(canvas.context, points, 2));
         SCOPED_TRACE(testing::Message() << line.from.x << ", " << line.from.y);
         ExpectPixels(canvas, [&](int x, int y) {
-            const bool within = x >= std::min(line.from.x, line.to.x) &&
-                                x <= std::max(line.from.x, line.to.x) &&
-                                y >= std::min(line.from.y, line.to.y) &&
-                                y <= std::max(line.from.y, line.to.y);
+            const bool within =
+                x >= std::min(line.from.x, line.to.x) && x <= std::max(line.from.x, line.to.x) &&
+                y >= std::min(line.from.y, line.to.y) && y <= std::max(line.from.y, line.to.y);
             return within && (x != line.to.x || y != line.to.y) ? red : white;
         });
     }
@@ -132,8 +131,7 @@ TEST_F(Drawing, CopiesTakeTheRightPixelsAndWhiteFromOutside) {
         target.UsePen(red);
         target.UseBrush(green);
         Rectangle(target.context, -1, -1, 11, 10);
-        EXPECT_TRUE(
-            BitBlt(target.context, 3, 2, 5, 4, source.context, from.x, from.y, SRCCOPY));
+        EXPECT_TRUE(BitBlt(target.context, 3, 2, 5, 4, source.context, from.x, from.y, SRCCOPY));
         SCOPED_TRACE(testing::Message() << from.x << ", " << from.y);
         ExpectPixels(target, [&](int x, int y) {
             if (x < 3 || x >= 8 || y < 2 || y >= 6) {
@@ -173,8 +171,9 @@ QRect InkOf(const QImage& image) {
 }
 
 TEST_F(Drawing, TextNeverLeavesItsBox) {
-    const std::u16string texts[] = {u"W", u"1234567", u"Two words and \u00C5ngstr\u00F6m",
-                                    u"Wj\u00C7g|\nline", u"", u" ", u"\x01\x7F"};
+    const std::u16string texts[] = {
+        u"W", u"1234567", u"Two words and \u00C5ngstr\u00F6m", u"Wj\u00C7g|\nline", u"",
+        u" ", u"\x01\x7F"};
     const UINT formats[] = {DT_CENTER | DT_VCENTER | DT_SINGLELINE, DT_SINGLELINE, DT_WORDBREAK, 0};
     for (unsigned seed = 1; seed <= 150; ++seed) {
         std::mt19937 random(seed);
@@ -202,8 +201,7 @@ TEST_F(Drawing, CentredLettersSitInTheMiddle) {
                 Canvas canvas(cell + 1, cell + 1);
                 canvas.UseFont(cell - 2, 700);
                 RECT box{0, 0, cell + 1, cell + 1};
-                DrawTextW(canvas.context, &letter, 1, &box,
-                          DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+                DrawTextW(canvas.context, &letter, 1, &box, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
                 const QImage image = canvas.Image();
                 const QRect ink = InkOf(image);
                 const int horizontal = ink.left() - (image.width() - 1 - ink.right());

@@ -75,8 +75,8 @@ TEST_F(Sharpness, OutlinesAreEquallyThickAtEveryRatio) {
             Play(BoardRows(9, std::string(7, 'A')), size);
             const QImage buffer = BufferImage();
             const int middle = static_cast<int>((BoardLeft + CellSize / 2) * magnification);
-            const auto across = BlackRuns(buffer, {0, static_cast<int>(
-                                                          CellSize / 2 * magnification)}, {1, 0});
+            const auto across =
+                BlackRuns(buffer, {0, static_cast<int>(CellSize / 2 * magnification)}, {1, 0});
             const auto down = BlackRuns(buffer, {middle, 0}, {0, 1});
             const int thickness = static_cast<int>(magnification);
             EXPECT_EQ(across, std::vector<int>(8, thickness)) << magnification;

@@ -50,8 +50,15 @@ public:
     int Below(unsigned limit) {
         return static_cast<int>(random() % limit);
     }
-    // Many edges fall together, as those of cells do.
+    // Areas return with other contents, as those of cells do.
     RECT Area() {
+        if (areas.size() < 6 || Below(3) == 0) {
+            areas.push_back(NewArea());
+        }
+        return areas[static_cast<std::size_t>(Below(static_cast<unsigned>(areas.size())))];
+    }
+    // Many edges fall together.
+    RECT NewArea() {
         const int step = Below(2) == 0 ? 1 : 9;
         const int left = Below(width + 20) / step * step - 9;
         const int top = Below(height + 20) / step * step - 9;
@@ -62,29 +69,26 @@ public:
     }
     Mark Line() {
         RECT area = Area();
-        (Below(2) == 0 ? area.right : area.bottom) =
-            Below(2) == 0 ? area.left + 1 : area.top + 1;
+        (Below(2) == 0 ? area.right : area.bottom) = Below(2) == 0 ? area.left + 1 : area.top + 1;
         return LineMark{area, Color()};
     }
     Mark Any() {
         const FontChoice font{FontChoice::Face::System, Below(2) == 0, Below(30) + 1};
         switch (Below(6)) {
-            case 0:
-                return FillMark{Area(), Color()};
-            case 1:
-                return FrameMark{Area(), Color(), Color(), QSize(6, 6)};
-            case 2:
-                return Line();
+            case 0: return FillMark{Area(), Color()};
+            case 1: return FrameMark{Area(), Color(), Color(), QSize(6, 6)};
+            case 2: return Line();
             case 3:
-                return TextMark{Area(),  u"Ng", DT_CENTER | DT_VCENTER | DT_SINGLELINE, font,
-                                Color(), Below(2) == 0, Color()};
-            default:
-                return FrameMark{Area(), Color(), Color(), QSize()};
+                return TextMark{Area(), u"Ng",   DT_CENTER | DT_VCENTER | DT_SINGLELINE,
+                                font,   Color(), Below(2) == 0,
+                                Color()};
+            default: return FrameMark{Area(), Color(), Color(), QSize()};
         }
     }
 
 private:
     std::mt19937& random;
+    std::vector<RECT> areas;
 };
 
 class ResizedSurface : public testing::Test {
@@ -146,15 +150,15 @@ TEST_P(Surfaces, ShowWhatDrawingEveryMarkWouldShow) {
     for (int step = 0; step < 400; ++step) {
         const Mark& mark = pool[static_cast<std::size_t>(maker.Below(25))];
         const int choice = maker.Below(100);
-        if (choice < 4) {
+        if (choice < 12) {
             Draw(FillMark{{0, 0, width, height}, 0xFFFFFFFF});
-        } else if (choice < 8) {
+        } else if (choice < 15) {
             CopyOther(maker.Area(), {maker.Below(30) - 10, maker.Below(30) - 10});
         } else if (choice < 20) {
             DrawOnOther(mark);
-        } else if (choice < 28) {
+        } else if (choice < 40) {
             ASSERT_TRUE(IsRight()) << "step " << step;
-        } else if (choice < 30) {
+        } else if (choice < 42) {
             Surface::SetRatioOfAll(ratios[maker.Below(5)]);
         } else {
             Draw(mark);

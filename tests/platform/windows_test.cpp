@@ -50,6 +50,16 @@ protected:
             handheld->Settle();
         }
     }
+    // A busy machine may take its time.
+    template <typename Condition>
+    void RunUntil(const Condition& condition) {
+        constexpr int patience = 5000;
+        QElapsedTimer clock;
+        clock.start();
+        while (!condition() && clock.elapsed() < patience) {
+            handheld->Settle();
+        }
+    }
     static long Count(WPARAM id) {
         return std::count(ticks.begin(), ticks.end(), id);
     }
@@ -59,8 +69,8 @@ TEST_F(Windows, TimersTickUntilTheyAreKilled) {
     HWND window = OpenCounter();
     EXPECT_EQ(SetTimer(window, 3, 5, nullptr), 3u);
     SetTimer(window, 7, 5, nullptr);
-    Run(60);
-    EXPECT_GE(Count(3), 3);
+    RunUntil([] { return Count(3) >= 4 && Count(7) >= 1; });
+    EXPECT_GE(Count(3), 4);
     EXPECT_EQ(Count(7), 1);
     EXPECT_TRUE(KillTimer(window, 3));
     EXPECT_FALSE(KillTimer(window, 3));
@@ -75,8 +85,10 @@ TEST_F(Windows, TimersEndWithTheirWindow) {
     HWND window = OpenCounter();
     SetTimer(window, 3, 5, nullptr);
     SetTimer(window, 9, 12, nullptr);
-    Run(60);
-    EXPECT_EQ(Count(9), 1);
+    RunUntil([] { return Count(9) >= 1; });
+    ticks.clear();
+    Run(30);
+    EXPECT_EQ(ticks.size(), 0u);
     EXPECT_FALSE(IsLiveWindow(window));
     EXPECT_EQ(SetTimer(window, 3, 5, nullptr), 0u);
     EXPECT_FALSE(DestroyWindow(window));
@@ -100,9 +112,9 @@ TEST_F(Windows, SleepShowsWhatWasDrawnAndHandlesNoInput) {
     ReleaseDC(MainWindow, context);
     EXPECT_EQ(counter.paints, 0);
     const QPointF place(20, 20);
-    QCoreApplication::postEvent(MainWindow->widget,
-                                new QMouseEvent(QEvent::MouseButtonPress, place, place,
-                                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+    QCoreApplication::postEvent(
+        MainWindow->widget, new QMouseEvent(QEvent::MouseButtonPress, place, place, Qt::LeftButton,
+                                            Qt::LeftButton, Qt::NoModifier));
     QElapsedTimer clock;
     clock.start();
     Sleep(30);
@@ -147,9 +159,9 @@ TEST_F(Windows, MessagesForAWindowThatIsGoneAreDropped) {
     EXPECT_FALSE(PostMessageW(window, WM_TIMER, 1, 0));
     handheld->Settle();
     EXPECT_EQ(ticks.size(), 0u);
-    EXPECT_EQ(CreateWindowExW(0, u"Unknown", u"", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr,
-                              nullptr),
-              nullptr);
+    EXPECT_EQ(
+        CreateWindowExW(0, u"Unknown", u"", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr),
+        nullptr);
 }
 
 TEST(Text, OfPuzzlesIsWidenedByWhatItsBytesAre) {

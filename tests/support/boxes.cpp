@@ -17,7 +17,6 @@ namespace {
 
 std::deque<int> plannedAnswers;
 std::deque<std::filesystem::path> plannedFiles;
-std::deque<QString> plannedItems;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
 std::function<void()> duringNextBox;
@@ -60,26 +59,9 @@ void Answer(QFileDialog* dialog) {
     QMetaObject::invokeMethod(dialog, "accept");
 }
 
-QAction* FindItem(const QMenu* menu, const QString& text) {
-    for (QAction* action : menu->actions()) {
-        QAction* found = action->menu() != nullptr ? FindItem(action->menu(), text)
-                         : action->text() == text  ? action
-                                                   : nullptr;
-        if (found != nullptr) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
 void Answer(QMenu* menu) {
     ++openedMenus;
-    const QString text = TakeNext(plannedItems, QString());
-    QAction* action = text.isEmpty() ? nullptr : FindItem(menu, text);
     menu->close();
-    if (action != nullptr) {
-        action->trigger();
-    }
 }
 
 class BoxWatcher : public QObject {
@@ -120,10 +102,6 @@ std::vector<ShownMessage> TakeShownMessages() {
 
 void ChooseNextFile(const std::filesystem::path& file) {
     plannedFiles.push_back(file);
-}
-
-void ChooseNextMenuItem(const std::u16string& text) {
-    plannedItems.push_back(QString::fromStdU16String(text));
 }
 
 int TakeOpenedMenus() {

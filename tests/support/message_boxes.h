@@ -1,4 +1,4 @@
-// Answering the real message boxes, choosers and menus of a program under test.
+// Answering the real message boxes and choosers of a program under test.
 #pragma once
 
 #include <filesystem>
@@ -26,9 +26,5 @@ std::vector<ShownMessage> TakeShownMessages();
 // planned nothing.
 void ChooseNextFile(const std::filesystem::path& file);
 
-// The text of the item that the next popup menu is asked for, in a submenu too; an empty one closes
-// the menu, and so does having planned nothing.
-void ChooseNextMenuItem(const std::u16string& text);
-
-// How many popup menus were opened since the last call.
+// How many popup menus were opened since the last call. Each is closed again at once.
 int TakeOpenedMenus();

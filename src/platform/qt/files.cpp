@@ -88,7 +88,9 @@ BOOL CloseHandle(HANDLE file) {
         return FALSE;
     }
     const std::unique_ptr<FileObject> closing(file);
-    return !closing->writer || (!closing->failed && closing->writer->commit());
+    // Flushed by itself first: a commit does not notice when the disk is full at its last flush.
+    return !closing->writer ||
+           (!closing->failed && closing->writer->flush() && closing->writer->commit());
 }
 
 BOOL DeleteFileW(const WCHAR* path) {

@@ -61,8 +61,10 @@ void MarkPainter::operator()(const FrameMark& mark) const {
         painter.fillRect(outer.left(), outer.top(), thickness, outer.height(), outline);
         painter.fillRect(outer.right() + 1 - thickness, outer.top(), thickness, outer.height(),
                          outline);
-        painter.fillRect(outer.adjusted(thickness, thickness, -thickness, -thickness),
-                         QColor::fromRgb(mark.fill));
+        const QRect inside = outer.adjusted(thickness, thickness, -thickness, -thickness);
+        if (inside.isValid()) {
+            painter.fillRect(inside, QColor::fromRgb(mark.fill));
+        }
     }
 }
 

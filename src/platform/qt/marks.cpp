@@ -6,8 +6,13 @@ struct HiddenAreaOf {
     RECT operator()(const FillMark& mark) const {
         return mark.area;
     }
+    // At a fractional ratio an outline can end before its last logical pixel does.
     RECT operator()(const FrameMark& mark) const {
-        return mark.corner.isEmpty() ? mark.area : RECT{};
+        if (!mark.corner.isEmpty()) {
+            return {};
+        }
+        const int edge = mark.outline == mark.fill ? 0 : 1;
+        return {mark.area.left, mark.area.top, mark.area.right - edge, mark.area.bottom - edge};
     }
     RECT operator()(const LineMark&) const {
         return {};

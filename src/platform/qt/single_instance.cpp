@@ -4,6 +4,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QSocketNotifier>
 #include <cstddef>
@@ -71,7 +72,8 @@ bool ClaimInstance(const WCHAR* className) {
     constexpr int waitingCalls = 8;
     listen(candidate, waitingCalls);
     listener = candidate;
-    auto* notifier = new QSocketNotifier(listener, QSocketNotifier::Read);
+    auto* notifier =
+        new QSocketNotifier(listener, QSocketNotifier::Read, QCoreApplication::instance());
     QObject::connect(notifier, &QSocketNotifier::activated, AnswerCalls);
     return true;
 }

@@ -14,6 +14,8 @@ double ratioOfAll = 1;
 // Below this many marks looking for hidden ones costs more than drawing them again would.
 constexpr size_t fewMarks = 256;
 
+constexpr QRgb white = qRgb(255, 255, 255);
+
 RECT WholeArea(QSize size) {
     return {0, 0, size.width(), size.height()};
 }
@@ -164,8 +166,17 @@ void Surface::Resize(int width, int height) {
     if (size == picture->size) {
         return;
     }
+    const QSize before = picture->size;
     picture = std::make_shared<Picture>(*picture);
     picture->size = size;
+    // Marks that reached beyond the old edge do not come back.
+    if (size.width() > before.width()) {
+        picture->marks.push_back(FillMark{{before.width(), 0, size.width(), size.height()}, white});
+    }
+    if (size.height() > before.height()) {
+        picture->marks.push_back(
+            FillMark{{0, before.height(), size.width(), size.height()}, white});
+    }
     changes = ChangeMap(size);
     for (const Mark& mark : picture->marks) {
         changes.Add(mark);
