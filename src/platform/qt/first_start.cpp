@@ -2,13 +2,17 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <algorithm>
 
 #include "platform/qt/device_paths.h"
 
 namespace {
 
 bool HoldsPuzzles(const QString& folder) {
-    return !QDir(folder).entryList({"*.puz"}, QDir::Files).isEmpty();
+    const QStringList names = QDir(folder).entryList(QDir::Files);
+    return std::any_of(names.begin(), names.end(), [](const QString& name) {
+        return name.endsWith(".puz", Qt::CaseInsensitive);
+    });
 }
 
 // Copying fails where a file of that name is, so nothing is ever overwritten.
