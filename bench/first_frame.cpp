@@ -32,6 +32,7 @@ int main(int argumentCount, char** arguments) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);
     QApplication application(argumentCount, arguments);
+    WarmUpFontDatabase();
     QApplication::setQuitOnLastWindowClosed(false);
     FrameWatcher watcher;
     application.installEventFilter(&watcher);

@@ -2,7 +2,9 @@
 
 #include <dlfcn.h>
 
+#include <QtGui/QFontDatabase>
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -22,6 +24,13 @@ void ReadConfiguration() {
 
 void WarmUpFonts() {
     reader = std::thread(ReadConfiguration);
+}
+
+void WarmUpFontDatabase() {
+    reader = std::thread([configuration = std::move(reader)]() mutable {
+        configuration.join();
+        QFontDatabase::hasFamily("Liberation Sans");
+    });
 }
 
 void AwaitFonts() {

@@ -6,5 +6,8 @@
 // does nothing, and the toolkit reads the configuration itself.
 void WarmUpFonts();
 
+// Called once the application object is there: goes on with the toolkit's own list of fonts.
+void WarmUpFontDatabase();
+
 // Returns when the reading is done: two threads at it would only do it twice.
 void AwaitFonts();

@@ -14,6 +14,7 @@ int main(int argumentCount, char** arguments) {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);
     QApplication application(argumentCount, arguments);
+    WarmUpFontDatabase();
     QApplication::setApplicationName("Quadrel");
     QApplication::setDesktopFileName("quadrel");
     QApplication::setQuitOnLastWindowClosed(false);

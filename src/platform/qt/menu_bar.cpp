@@ -2,7 +2,6 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
-#include <QtWidgets/QApplication>
 #include <algorithm>
 
 #include "platform/qt/art.h"
@@ -133,7 +132,9 @@ void MenuBarWidget::OpenPopup(BarButton* button, HMENU menu) {
     const QSize size = popup->sizeHint();
     const int left = std::clamp(button->x(), 0, std::max(width() - size.width(), 0));
     button->setDown(true);
-    connect(popup, &QMenu::aboutToHide, button, [button] { button->setDown(false); });
+    connect(
+        popup, &QMenu::aboutToHide, button, [button] { button->setDown(false); },
+        Qt::SingleShotConnection);
     popup->popup(mapToGlobal(QPoint(left, -size.height())));
 }
 
@@ -158,7 +159,7 @@ void MenuBarWidget::MoveFocus(int step) {
     if (panelButton != nullptr && panelButton->isVisible()) {
         usable.push_back(panelButton);
     }
-    const auto current = std::find(usable.begin(), usable.end(), QApplication::focusWidget());
+    const auto current = std::find(usable.begin(), usable.end(), window()->focusWidget());
     const auto count = static_cast<int>(usable.size());
     const auto next = (static_cast<int>(current - usable.begin()) + step + count) % count;
     usable[static_cast<size_t>(next)]->setFocus(Qt::TabFocusReason);

@@ -24,6 +24,7 @@ struct MenuObject {
 
     std::vector<MenuItem> items;
     QPointer<QMenu> popup;
+    HWND owner = nullptr;  // the window that the popup was opened for last
 };
 
 // The toolkit's popup, built once; its text is sized with the screen. A chosen item's command is

@@ -25,27 +25,27 @@ MenuItem* FindItem(MenuObject* menu, int command) {
     return nullptr;
 }
 
-void AddCommand(QMenu* popup, MenuItem& item, HWND window) {
+void AddCommand(QMenu* popup, MenuItem& item, const MenuObject* root) {
     item.action = popup->addAction(QString::fromUtf16(item.resource->text));
     item.action->setCheckable(item.checked);
     item.action->setChecked(item.checked);
     item.action->setEnabled(item.resource->available);
     const int command = item.resource->command;
-    QObject::connect(item.action, &QAction::triggered, popup, [window, command] {
-        PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(command), 0);
+    QObject::connect(item.action, &QAction::triggered, popup, [root, command] {
+        PostMessageW(root->owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
     });
 }
 
-void FillPopup(QMenu* popup, MenuObject* menu, HWND window) {
+void FillPopup(QMenu* popup, MenuObject* menu, const MenuObject* root) {
     for (MenuItem& item : menu->items) {
         if (item.submenu != nullptr) {
             QMenu* submenu = popup->addMenu(QString::fromUtf16(item.resource->text));
-            FillPopup(submenu, item.submenu.get(), window);
+            FillPopup(submenu, item.submenu.get(), root);
             submenu->setEnabled(
                 std::any_of(item.submenu->items.begin(), item.submenu->items.end(),
                             [](const MenuItem& inner) { return inner.resource->available; }));
         } else if (item.resource->text != nullptr) {
-            AddCommand(popup, item, window);
+            AddCommand(popup, item, root);
         } else {
             popup->addSeparator();
         }
@@ -110,8 +110,9 @@ DWORD CheckMenuItem(HMENU menu, UINT command, UINT flags) {
 QMenu* PopupOf(HMENU menu, HWND window) {
     if (menu->popup == nullptr) {
         menu->popup = new QMenu(&Host());
-        FillPopup(menu->popup, menu, window);
+        FillPopup(menu->popup, menu, menu);
     }
+    menu->owner = window;
     SizeWithScreen(menu->popup);
     return menu->popup;
 }

@@ -1,0 +1,34 @@
+// Using the real popup menus with the arrow keys and Enter, as a person does.
+#pragma once
+
+#include <QtCore/QStringList>
+#include <map>
+
+#include "support/handheld.h"
+
+class QMenu;
+
+// The texts on the way to an item, like {"Fill", "Word"}.
+using ItemPath = QStringList;
+
+// Opens the popup of the menu bar's button and presses Enter on the item, or opens it by a
+// tap-and-hold at the client point. False when no popup opened or it has no such item.
+bool ChooseFromBar(Handheld& handheld, const QString& tooltip, const ItemPath& path);
+bool ChooseFromContext(Handheld& handheld, POINT point, const ItemPath& path);
+
+struct ShownItem {
+    bool enabled = false;
+    bool checked = false;
+    bool operator==(const ShownItem&) const = default;
+};
+
+struct ShownMenu {
+    QMenu* popup = nullptr;
+    std::map<QString, ShownItem> items;  // by their texts, joined with "/"
+};
+
+// Opens the popup of the menu bar's button and closes it again.
+ShownMenu LookAtMenu(Handheld& handheld, const QString& tooltip);
+
+// A key for whatever has the focus: a button of the menu bar or the program's window.
+void PressFocusedKey(Handheld& handheld, int key);
