@@ -3,10 +3,12 @@
 //   ParseFile        reading and parsing a 15 by 15 file     beside  CopyFileBytes
 //   RepaintSame      PaintBoard of an unchanged board        beside  CopyBuffer
 //   RepaintAll       PaintBoard, every cell changed          beside  CopyBuffer
+//   CheckBoard       the checker's painting, a wrong letter  beside  PaintAfter, after the same
+//   HintLetter, HintWord, HintPuzzle                         beside  PaintAfter, after the same
 //   LetterKey        a key from the message to the screen's
 //                    copy                                    beside  CopyBuffer
 //
-// The last four are named .../S/R for S cells a side at ratio R, in Large with numbers on, the
+// These are named .../S/R for S cells a side at ratio R, in Large with numbers on, the
 // board full of letters. Painting includes rendering the pixels. CopyBuffer copies the whole
 // off-screen buffer, pixel for pixel, into another one.
 #include <benchmark/benchmark.h>
@@ -23,6 +25,8 @@
 #include "app/view.h"
 #include "app/win_main.h"
 #include "board/board_painter.h"
+#include "board/checker.h"
+#include "board/hints.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
 #include "platform/drawing.h"
@@ -145,6 +149,43 @@ void RepaintAll(benchmark::State& state) {
     }
 }
 
+using Operation = void (*)(HWND);
+
+// One wrong letter, so that the checker has nothing to say in a box.
+void SpoilOneLetter() {
+    PlayerGrid[0] = PlayerGrid[0] == 'A' ? 'B' : 'A';
+}
+
+// An operation on a board that PaintBoard left.
+template <Operation operation>
+void AfterPaint(benchmark::State& state) {
+    SetUpView(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    SpoilOneLetter();
+    for (auto _ : state) {
+        state.PauseTiming();
+        PaintBoard(MainWindow);
+        RenderBuffer();
+        state.ResumeTiming();
+        operation(MainWindow);
+        RenderBuffer();
+    }
+}
+
+// The other way round: PaintBoard with its copy, on what the operation left.
+template <Operation operation>
+void PaintAfter(benchmark::State& state) {
+    SetUpView(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    SpoilOneLetter();
+    for (auto _ : state) {
+        state.PauseTiming();
+        operation(MainWindow);
+        RenderBuffer();
+        state.ResumeTiming();
+        PaintBoard(MainWindow);
+        CopyViewToScreen(MainWindow);
+    }
+}
+
 void LetterKey(benchmark::State& state) {
     SetUpView(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     int key = 0;
@@ -183,6 +224,14 @@ BENCHMARK(CopyBuffer)->Apply(Boards);
 BENCHMARK(RepaintSame)->Apply(Boards);
 BENCHMARK(RepaintAll)->Apply(Boards);
 BENCHMARK(LetterKey)->Apply(Boards);
+BENCHMARK(AfterPaint<CheckPuzzle>)->Name("CheckBoard")->Apply(Boards);
+BENCHMARK(PaintAfter<CheckPuzzle>)->Name("PaintAfterCheckBoard")->Apply(Boards);
+BENCHMARK(AfterPaint<ShowLetterSolution>)->Name("HintLetter")->Apply(Boards);
+BENCHMARK(PaintAfter<ShowLetterSolution>)->Name("PaintAfterHintLetter")->Apply(Boards);
+BENCHMARK(AfterPaint<ShowWordSolution>)->Name("HintWord")->Apply(Boards);
+BENCHMARK(PaintAfter<ShowWordSolution>)->Name("PaintAfterHintWord")->Apply(Boards);
+BENCHMARK(AfterPaint<ShowPuzzleSolution>)->Name("HintPuzzle")->Apply(Boards);
+BENCHMARK(PaintAfter<ShowPuzzleSolution>)->Name("PaintAfterHintPuzzle")->Apply(Boards);
 
 }  // namespace
 

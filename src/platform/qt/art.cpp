@@ -3,6 +3,7 @@
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
 #include <map>
+#include <thread>
 #include <tuple>
 
 namespace {
@@ -21,12 +22,14 @@ QImage RenderFile(const QString& path, QSize size) {
     return image;
 }
 
-}  // namespace
+std::map<ArtKey, QImage> rendered;
 
-const QImage& RenderArt(const char* file, QSize size) {
+// While it runs nobody else touches what is rendered.
+std::jthread ahead;  // joined at the end, whichever way the process ends
+
+const QImage& FindOrRender(const char* file, QSize size) {
     // A window that is being resized asks for many sizes; the last few dozen are enough.
     constexpr size_t mostKept = 64;
-    static std::map<ArtKey, QImage> rendered;
     const ArtKey key(QString::fromLatin1(file), size.width(), size.height());
     auto found = rendered.find(key);
     if (found == rendered.end()) {
@@ -36,4 +39,26 @@ const QImage& RenderArt(const char* file, QSize size) {
         found = rendered.emplace(key, RenderFile(":/art/" + std::get<0>(key), size)).first;
     }
     return found->second;
+}
+
+void AwaitAhead() {
+    if (ahead.joinable()) {
+        ahead.join();
+    }
+}
+
+}  // namespace
+
+const QImage& RenderArt(const char* file, QSize size) {
+    AwaitAhead();
+    return FindOrRender(file, size);
+}
+
+void RenderArtAhead(const std::vector<const char*>& files, QSize size) {
+    AwaitAhead();
+    ahead = std::jthread([files, size] {
+        for (const char* file : files) {
+            FindOrRender(file, size);
+        }
+    });
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-std::thread reader;
+std::jthread reader;  // joined at the end, whichever way the process ends
 
 void ReadConfiguration() {
     // Loaded by name, since the toolkit has it in any case and this needs one function of it.
@@ -23,11 +23,11 @@ void ReadConfiguration() {
 }  // namespace
 
 void WarmUpFonts() {
-    reader = std::thread(ReadConfiguration);
+    reader = std::jthread(ReadConfiguration);
 }
 
 void WarmUpFontDatabase() {
-    reader = std::thread([configuration = std::move(reader)]() mutable {
+    reader = std::jthread([configuration = std::move(reader)]() mutable {
         configuration.join();
         QFontDatabase::hasFamily("Liberation Sans");
     });

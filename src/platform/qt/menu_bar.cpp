@@ -14,14 +14,20 @@ namespace {
 
 // Nine buttons of the program and the panel's fill the 240 pixels.
 constexpr int buttonWidth = 24;
-constexpr int pictureSize = 16;
-constexpr ArtResource panelArt{0, "menu_sip.svg", pictureSize, pictureSize};
+constexpr int pictureSide = 16;
+constexpr ArtResource panelArt{0, "menu_sip.svg", pictureSide, pictureSide};
 
 const ArtResource* FindArt(HINSTANCE instance, int image) {
     const auto& art = instance->menuBarArt;
     const auto found = std::find_if(art.begin(), art.end(),
                                     [image](const ArtResource& each) { return each.id == image; });
     return found == art.end() ? nullptr : &*found;
+}
+
+// In device pixels.
+QSize PictureSize(const HostWindow& host) {
+    const int side = qRound(pictureSide * host.Magnification() * host.devicePixelRatioF());
+    return {side, side};
 }
 
 }  // namespace
@@ -76,9 +82,9 @@ void BarButton::paintEvent(QPaintEvent*) {
         return;
     }
     const double ratio = devicePixelRatioF();
-    const int side = qRound(pictureSize * host->Magnification() * ratio);
-    const QSize free = size() * ratio - QSize(side, side);
-    QImage icon = RenderArt(art->file, {side, side});
+    const QSize pictureSize = PictureSize(*host);
+    const QSize free = size() * ratio - pictureSize;
+    QImage icon = RenderArt(art->file, pictureSize);
     icon.setDevicePixelRatio(ratio);
     constexpr double disabledOpacity = 0.35;
     painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
@@ -102,7 +108,18 @@ bool MenuBarWidget::Open(HWND window, HINSTANCE instance, int id) {
     }
     AddPanelButton();
     PlaceButtons();
+    RenderPicturesAhead(*found, instance);
     return true;
+}
+
+void MenuBarWidget::RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const {
+    std::vector<const char*> files{panelArt.file};
+    for (const MenuBarButton& button : bar.buttons) {
+        if (const ArtResource* art = FindArt(instance, button.image)) {
+            files.push_back(art->file);
+        }
+    }
+    RenderArtAhead(files, PictureSize(*host));
 }
 
 void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance) {

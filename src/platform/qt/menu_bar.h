@@ -56,6 +56,7 @@ private:
     void AddPanelButton();
     void OpenPopup(BarButton* button, HMENU menu);
     void PlaceButtons();
+    void RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const;
 
     HostWindow* host;
     HWND owner = nullptr;

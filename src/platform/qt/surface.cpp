@@ -123,7 +123,11 @@ void Surface::Render() {
     if (image.isNull()) {
         image = QImage(std::max(scale.At(size.width()), 1), std::max(scale.At(size.height()), 1),
                        QImage::Format_RGB32);
-        image.fill(Qt::white);
+        // A picture that begins by covering everything needs no ground.
+        if (picture->marks.empty() ||
+            !Contains(HiddenArea(picture->marks.front()), WholeArea(size))) {
+            image.fill(Qt::white);
+        }
     } else if (!startedAnew && renderedMarks == picture->marks.size()) {
         return;
     }
