@@ -1,7 +1,7 @@
 // Menus: the toolkit's own popups over the program's menu resources.
 #include "platform/menus.h"
 
-#include <QtWidgets/QApplication>
+#include <QtWidgets/QProxyStyle>
 #include <algorithm>
 #include <map>
 
@@ -11,6 +11,27 @@
 #include "platform/windows.h"
 
 namespace {
+
+// The usual style widens the column of check marks with the text's height, but measures an item as
+// if that column had its least width: texts of large menus would be cut.
+class MenuStyle : public QProxyStyle {
+public:
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override {
+        constexpr double columnPerHeight = 0.79;
+        constexpr int leastColumn = 21;
+        QSize item = QProxyStyle::sizeFromContents(type, option, size, widget);
+        if (type == CT_MenuItem) {
+            item.rwidth() += std::max(qRound(item.height() * columnPerHeight) - leastColumn, 0);
+        }
+        return item;
+    }
+};
+
+void SetMenuStyle(QMenu* popup) {
+    static auto* style = new MenuStyle;
+    popup->setStyle(style);
+}
 
 MenuItem* FindItem(MenuObject* menu, int command) {
     for (MenuItem& item : menu->items) {
@@ -40,6 +61,7 @@ void FillPopup(QMenu* popup, MenuObject* menu, const MenuObject* root) {
     for (MenuItem& item : menu->items) {
         if (item.submenu != nullptr) {
             QMenu* submenu = popup->addMenu(QString::fromUtf16(item.resource->text));
+            SetMenuStyle(submenu);
             FillPopup(submenu, item.submenu.get(), root);
             submenu->setEnabled(
                 std::any_of(item.submenu->items.begin(), item.submenu->items.end(),
@@ -110,6 +132,7 @@ DWORD CheckMenuItem(HMENU menu, UINT command, UINT flags) {
 QMenu* PopupOf(HMENU menu, HWND window) {
     if (menu->popup == nullptr) {
         menu->popup = new QMenu(&Host());
+        SetMenuStyle(menu->popup);
         FillPopup(menu->popup, menu, menu);
     }
     menu->owner = window;
