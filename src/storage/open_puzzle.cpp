@@ -36,7 +36,7 @@ bool ChooseFile(HWND owner, ChosenFile& chosen) {
 bool ConfirmLoading(HWND owner, const ChosenFile& chosen) {
     const std::u16string question =
         std::u16string(u"Do you want to load the puzzle ") + chosen.name + u" ?";
-    return MessageBoxW(owner, question.c_str(), u"Confirm", MB_YESNO) == IDYES;
+    return MessageBoxW(owner, question.c_str(), u"Confirm", MB_YESNO | MB_ICONQUESTION) == IDYES;
 }
 
 // Looked at before the puzzle in play is let go. A file that tells no size is left to the reader,

@@ -87,7 +87,7 @@ void ClientView::keyPressEvent(QKeyEvent* event) {
     const bool held = event->modifiers() & shortcutModifiers;
     const UINT message = held ? WM_SYSKEYDOWN : WM_KEYDOWN;
     PostMessage({{window, message, static_cast<WPARAM>(key), 0},
-                 event->modifiers().testFlag(Qt::ControlModifier)});
+                 (event->modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier});
 }
 
 void ClientView::keyReleaseEvent(QKeyEvent* event) {

@@ -9,7 +9,8 @@
 
 int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     const bool question = (style & MB_YESNO) != 0;
-    QMessageBox box(&Host());
+    // Before the screen is shown, the middle of the host's screen is the place for a box.
+    QMessageBox box(Host().isVisible() ? &Host() : nullptr);
     box.setWindowTitle(QString::fromUtf16(title));
     // Titles of puzzles and file names come from elsewhere and are never markup.
     box.setTextFormat(Qt::PlainText);

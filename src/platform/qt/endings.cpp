@@ -17,6 +17,7 @@ namespace {
 int signalPair[2] = {-1, -1};
 
 QtMessageHandler previousHandler = nullptr;
+bool endingAsked = false;
 
 void OnSignal(int) {
     const char byte = 0;
@@ -88,7 +89,16 @@ void WatchForEndings() {
     previousHandler = qInstallMessageHandler(OnToolkitMessage);
 }
 
+bool EndingAsked() {
+    return endingAsked;
+}
+
+void ForgetEnding() {
+    endingAsked = false;
+}
+
 void AskProgramToEnd() {
+    endingAsked = true;
     CloseEverythingAbove();
     PostMessageW(TopWindow(), WM_CLOSE, 0, 0);
 }

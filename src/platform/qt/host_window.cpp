@@ -6,6 +6,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
 #include <algorithm>
 #include <utility>
 
@@ -181,6 +182,10 @@ void HostWindow::ShowPanelButton(bool shown) {
 }
 
 void HostWindow::resizeEvent(QResizeEvent*) {
+    // A popup has the size and the place that it was opened with.
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        popup->close();
+    }
     FitScreen();
 }
 

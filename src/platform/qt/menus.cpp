@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <map>
 
+#include "platform/qt/endings.h"
 #include "platform/qt/host_window.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_object.h"
@@ -141,10 +142,15 @@ QMenu* PopupOf(HMENU menu, HWND window) {
 }
 
 BOOL TrackPopupMenuEx(HMENU menu, UINT, int x, int y, HWND window, void*) {
-    if (menu == nullptr) {
+    if (menu == nullptr || EndingAsked()) {
         return FALSE;
     }
-    const QPointF corner = Host().ExactPlace({x, y, x, y}).topLeft();
-    PopupOf(menu, window)->exec(Host().mapToGlobal(corner).toPoint());
+    QMenu* popup = PopupOf(menu, window);
+    const QRect screen = Host().ExactPlace({0, 0, screenWidth, screenHeight}).toAlignedRect();
+    const QSize room = screen.size() - popup->sizeHint();
+    const QPoint wanted = Host().ExactPlace({x, y, x, y}).topLeft().toPoint() - screen.topLeft();
+    const QPoint corner(std::clamp(wanted.x(), 0, std::max(room.width(), 0)),
+                        std::clamp(wanted.y(), 0, std::max(room.height(), 0)));
+    popup->exec(Host().mapToGlobal(screen.topLeft() + corner));
     return TRUE;
 }

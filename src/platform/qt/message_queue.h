@@ -5,7 +5,7 @@
 
 struct QueuedMessage {
     MSG message;
-    bool shortcut = false;    // a key pressed together with Ctrl
+    bool shortcut = false;    // a key pressed together with Ctrl alone
     bool heldAtOnce = false;  // a pen down that counts as a tap-and-hold, like a right click
 };
 

@@ -3,5 +3,6 @@
 
 class QDialog;
 
-// Sizes the dialog's text with the screen, shows it over the screen and returns its result.
+// Rejected at once when the program has been asked to end. Else sizes the dialog's text with the
+// screen, shows it over the screen and returns its result.
 int RunModal(QDialog& dialog);

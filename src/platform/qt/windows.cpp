@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/qt/client_view.h"
+#include "platform/qt/endings.h"
 #include "platform/qt/host_window.h"
 #include "platform/qt/message_queue.h"
 #include "platform/qt/screen_layout.h"
@@ -157,6 +158,7 @@ BOOL DestroyWindow(HWND window) {
         ForgetWindow(window);
     }
     if (windows.empty()) {
+        ForgetEnding();
         Host().hide();
     }
     return TRUE;
