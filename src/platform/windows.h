@@ -2,7 +2,9 @@
 //
 // Stylus and key messages and menu commands are queued; WM_ACTIVATE, WM_SIZE, WM_PAINT,
 // WM_SETTINGCHANGE and WM_TIMER are sent at once. A window keeps what was drawn on it: WM_PAINT
-// comes when the window first shows, not when it is uncovered or resized.
+// comes when the window first shows, not when it is uncovered or resized. WM_ACTIVATE follows the
+// handheld's own windows: neither the focus of the host nor a message box or chooser, which lie
+// over the screen without touching it, sends one.
 #pragma once
 
 #include "platform/types.h"
