@@ -48,15 +48,6 @@ void CloseNow() {
     }
 }
 
-// The session waits for no queue: what is not written when this returns may be lost.
-void EndWithSession() {
-    if (InsideProcedure()) {
-        AskProgramToEnd();
-    } else {
-        CloseNow();
-    }
-}
-
 // When the display server goes away, the toolkit says so and then ends the process on the spot.
 // These words are all the notice there is.
 void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
@@ -77,6 +68,16 @@ void CloseEverythingAbove() {
         if (!modal->close()) {
             break;
         }
+    }
+}
+
+// The session waits for no queue: what is not written when this returns may be lost.
+void EndWithSession() {
+    if (InsideProcedure()) {
+        AskProgramToEnd();
+    } else {
+        CloseEverythingAbove();
+        CloseNow();
     }
 }
 
@@ -107,6 +108,8 @@ void TellProgramMinimized() {
     if (InsideProcedure()) {
         AskProgramToEnd();
     } else {
+        // A message of the help's window stands above no procedure.
+        CloseEverythingAbove();
         SendMessageW(TopWindow(), WM_SIZE, SIZE_MINIMIZED, 0);
     }
 }

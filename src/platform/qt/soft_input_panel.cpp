@@ -119,7 +119,9 @@ void SoftInputPanel::Press(const Key& key) {
                                                    : key.plain;
     const int code = key.code != 0 ? key.code : key.plain[0].toUpper().unicode();
     QWidget* focus = QApplication::focusWidget();
-    QWidget* target = focus != nullptr ? focus : host->focusWidget();
+    // The panel types into the screen it stands on, though the help's window may be the active one.
+    const bool onScreen = focus != nullptr && host->isAncestorOf(focus);
+    QWidget* target = onScreen ? focus : host->focusWidget();
     if (target != nullptr) {
         const auto modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
         QKeyEvent press(QEvent::KeyPress, code, modifiers, text);

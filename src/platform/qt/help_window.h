@@ -1,0 +1,31 @@
+// The help viewer: one window of its own beside the game's.
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+class HelpPage;
+class QToolBar;
+
+class HelpWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    HelpWindow();
+
+    void Open(const QUrl& chapter);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    // Watches the game's window: without it the help goes, too.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void AddTools(QToolBar* bar);
+    void AddKeys();
+    void PlaceBesideGame(double em);
+
+    HelpPage* page;
+};
+
+// "document.htm" or "document.htm#chapter". False when no such document is bundled.
+bool ShowHelp(const QString& chapter);
