@@ -1,11 +1,10 @@
 #include "platform/qt/help_window.h"
 
-#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
 #include <QtGui/QAction>
-#include <QtGui/QCloseEvent>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
-#include <QtGui/QShortcut>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
@@ -59,7 +58,6 @@ HelpWindow::HelpWindow() {
     column->addWidget(bar);
     column->addWidget(page);
     AddTools(bar);
-    AddKeys();
     PlaceBesideGame(em);
     Host().installEventFilter(this);
 }
@@ -81,17 +79,21 @@ void HelpWindow::AddTools(QToolBar* bar) {
     }
 }
 
-void HelpWindow::AddKeys() {
-    const auto add = [this](std::initializer_list<QKeySequence> keys, auto receiver, auto action) {
-        for (const QKeySequence& key : keys) {
-            new QShortcut(key, this, receiver, action);
-        }
-    };
-    add({Qt::Key_Escape, Qt::CTRL | Qt::Key_W}, this, &QWidget::close);
-    // The plus sign shares its key with the equals sign on many keyboards.
-    add({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, page, [this] { page->Enlarge(1); });
-    add({Qt::CTRL | Qt::Key_Minus}, page, [this] { page->Enlarge(-1); });
-    add({Qt::CTRL | Qt::Key_0}, page, [this] { page->ShowUsualSize(); });
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+    const bool ctrl = event->modifiers().testFlag(Qt::ControlModifier);
+    const int key = event->key();
+    if (key == Qt::Key_Escape || (ctrl && key == Qt::Key_W)) {
+        close();
+    } else if (ctrl && (key == Qt::Key_Plus || key == Qt::Key_Equal)) {
+        // The plus sign shares its key with the equals sign on many keyboards.
+        page->Enlarge(1);
+    } else if (ctrl && key == Qt::Key_Minus) {
+        page->Enlarge(-1);
+    } else if (ctrl && key == Qt::Key_0) {
+        page->ShowUsualSize();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 // As high as the game, on the side with more room, and beside it as long as it stays readable.
@@ -143,7 +145,7 @@ bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
 
 bool ShowHelp(const QString& chapter) {
     const QUrl address("qrc:/help/" + chapter);
-    if (!QFile::exists(":" + address.path())) {
+    if (!QFileInfo(":" + address.path()).isFile()) {
         return false;
     }
     TheHelpWindow().Open(address);

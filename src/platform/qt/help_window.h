@@ -15,13 +15,14 @@ public:
     void Open(const QUrl& chapter);
 
 protected:
+    // What the page does not take for itself.
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     // Watches the game's window: without it the help goes, too.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void AddTools(QToolBar* bar);
-    void AddKeys();
     void PlaceBesideGame(double em);
 
     HelpPage* page;
