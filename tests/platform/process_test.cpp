@@ -294,13 +294,12 @@ TEST_F(StartedBrowser, MissingBehindTheOpenerIsSaidToo) {
 
 // It stands above no procedure of the program.
 TEST_F(StartedBrowser, MessageDoesNotOutliveTheProgram) {
-    DoDuringNextMessageBox([this] {
+    DoDuringNextMessageBox([] {
         TellProgramMinimized();
-        handheld->Settle();
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     });
     EXPECT_FALSE(CreateProcessW(browser, address));
     handheld->Settle();
     EXPECT_FALSE(handheld->Running());
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     ExpectAddressTold();
 }

@@ -59,9 +59,9 @@ void HelpPage::doSetSource(const QUrl& url, QTextDocument::ResourceType type) {
     QTextBrowser::doSetSource(url, type);
     if (otherDocument) {
         FitColumn();
+        scrollToAnchor(url.fragment());
     }
     if (url.hasFragment()) {
-        scrollToAnchor(url.fragment());
         const double margin = chapterMargin * font().pixelSize();
         verticalScrollBar()->setValue(verticalScrollBar()->value() - qRound(margin));
     }
