@@ -9,6 +9,10 @@
 #include "board/clue_bar.h"
 #include "board/hints.h"
 #include "board/word_highlight.h"
+#include "dialogs/about.h"
+#include "dialogs/clue_list.h"
+#include "dialogs/preferences.h"
+#include "dialogs/quick_help.h"
 #include "keyboard/keyboard_drawing.h"
 #include "keyboard/keyboard_visibility.h"
 #include "model/puzzle.h"
@@ -87,6 +91,20 @@ void ChangeGrid(HWND window, void (*change)()) {
     RepaintFully(window);
 }
 
+void ChangePreferences(HWND window) {
+    ShowPreferences(window);
+    ComputeLayout(window);
+    PaintBoard(window);
+    PaintWordHighlight(window);
+    PaintClueBar(window);
+    CopyViewToScreen(window);
+}
+
+void ShowAboutAnew(HWND window) {
+    ResetLogoPieces();
+    ShowAbout(window);
+}
+
 void ClearPuzzleIfSure(HWND window) {
     const int answer =
         MessageBoxW(window, u"Do you want to clear the puzzle ? This cannot be undone.",
@@ -128,6 +146,10 @@ bool RunCommand(HWND window, int command) {
         case commandHintLetter: ShowLetterSolution(window); return true;
         case commandHintWord: ShowWordSolution(window); return true;
         case commandHintPuzzle: ShowPuzzleSolution(window); return true;
+        case commandClueList: ShowClueList(window); return true;
+        case commandPreferences: ChangePreferences(window); return true;
+        case commandHelp: ShowQuickHelp(window); return true;
+        case commandAbout: ShowAboutAnew(window); return true;
         case commandPuzzleInfo: ShowPuzzleInfo(window); return true;
         default: return false;
     }

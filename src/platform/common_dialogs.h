@@ -19,3 +19,24 @@ struct OPENFILENAMEW {
 // FALSE when the player cancelled; the buffers are then unchanged. A name that has no device path
 // (a backslash in it, or more than 259 characters) is explained to the player, who chooses again.
 BOOL GetOpenFileNameW(OPENFILENAMEW* request);
+
+constexpr DWORD CC_ENABLEHOOK = 16;
+
+using CCHOOKPROC = UINT (*)(HWND chooser, UINT message, WPARAM wParam, LPARAM lParam);
+
+struct CHOOSECOLOR {
+    DWORD lStructSize = 0;
+    HWND hwndOwner = nullptr;
+    HINSTANCE hInstance = nullptr;
+    COLORREF rgbResult = 0;            // the colour to start with, and the one that was picked
+    COLORREF* lpCustColors = nullptr;  // sixteen, which the player may change
+    DWORD Flags = 0;
+    LPARAM lCustData = 0;
+    CCHOOKPROC lpfnHook = nullptr;
+    const WCHAR* lpTemplateName = nullptr;
+};
+
+// FALSE when the player cancelled; the result is then unchanged, but the custom colours may not
+// be. The hook is told WM_INITDIALOG when the chooser opens, WM_COMMAND (IDOK, IDCANCEL) for its
+// buttons and WM_CLOSE before the chooser does what they ask for.
+BOOL ChooseColor(CHOOSECOLOR* request);

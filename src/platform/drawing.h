@@ -50,6 +50,9 @@ HBITMAP CreateCompatibleBitmap(HDC context, int width, int height);
 HPEN CreatePen(int style, int width, COLORREF color);
 HBRUSH CreateSolidBrush(COLORREF color);
 HFONT CreateFontIndirectW(const LOGFONTW* description);
+// Fonts only: fills in the description that the font was made from and returns its size; 0 for
+// another object or another size.
+int GetObjectW(HGDIOBJ object, int size, void* description);
 HGDIOBJ GetStockObject(int object);
 // Returns the object of the same kind that it replaces.
 HGDIOBJ SelectObject(HDC context, HGDIOBJ object);

@@ -58,6 +58,44 @@ struct MenuBarResource {
     std::span<const MenuBarButton> buttons;
 };
 
+enum class ControlKind {
+    PushButton,
+    DefaultButton,  // the push button that Enter presses
+    RadioButton,    // the radio buttons of a dialog are one group; a press selects
+    CheckBox,       // a press toggles
+    GroupBox,
+    Static,   // text
+    Picture,  // a bitmap of the module at its own size
+    ListBox,
+    TabControl,  // its tabs hang at the bottom
+    EditBox,     // one line that scrolls
+};
+
+// Places are dialog units. A text that needs more room than its place runs on to the right.
+struct ControlResource {
+    int id;  // noControlId where nothing asks for the control
+    ControlKind kind;
+    const WCHAR* text;
+    int x;
+    int y;
+    int width;
+    int height;
+    int bitmap = 0;  // of a picture
+};
+
+constexpr int noControlId = -1;
+
+// The controls are in the order of the Tab key; a later one lies over an earlier one.
+struct DialogResource {
+    int id;
+    const WCHAR* title;
+    const WCHAR* fontFace;
+    int fontPoints;
+    int width;  // dialog units
+    int height;
+    std::span<const ControlResource> controls;
+};
+
 // Everything that the program's module holds.
 struct ModuleResources {
     std::span<const StringResource> strings;
@@ -67,6 +105,7 @@ struct ModuleResources {
     std::span<const AcceleratorTable> acceleratorTables;
     std::span<const MenuResource> menus;
     std::span<const MenuBarResource> menuBars;
+    std::span<const DialogResource> dialogs;
 };
 
 // Defined by the program; the platform hands it to WinMain as the instance.
@@ -74,6 +113,14 @@ extern const ModuleResources programResources;
 
 // Copies the string, cut to the buffer, and returns its length; 0 when there is none.
 int LoadStringW(HINSTANCE instance, UINT id, WCHAR* buffer, int bufferSize);
+
+using HRSRC = const DialogResource*;
+using HGLOBAL = const DialogResource*;
+constexpr int RT_DIALOG = 5;
+
+// Dialogs only; null when there is none of that number. What is found is loaded already.
+HRSRC FindResourceW(HINSTANCE instance, int id, int type);
+HGLOBAL LoadResource(HINSTANCE instance, HRSRC resource);
 
 // Null when there is no picture of that number.
 HICON LoadIconW(HINSTANCE instance, int id);

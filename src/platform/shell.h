@@ -36,8 +36,28 @@ constexpr UINT SIP_FORCEDOWN = 2;
 // Says what the window would like; the panel goes up or down like by its button.
 BOOL SHSipPreference(HWND window, UINT state);
 
-// Fits the window to the visible desktop: 240 by 268 with the panel down, 240 by 188 with it up.
+// Fits the window to the visible desktop: 240 by 268 with the panel down, 240 by 188 with it up. A
+// dialog has no menu bar below it: 240 by 294 and 240 by 214.
 BOOL SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* record);
+
+constexpr DWORD SHIDIM_FLAGS = 1;
+constexpr DWORD SHIDIF_DONEBUTTON = 1;
+constexpr DWORD SHIDIF_SIZEDLGFULLSCREEN = 4;
+constexpr DWORD SHIDIF_SIPDOWN = 8;
+constexpr DWORD SHIDIF_FULLSCREENNOMENUBAR = 16;
+
+struct SHINITDLGINFO {
+    DWORD dwMask = 0;
+    HWND hDlg = nullptr;
+    DWORD dwFlags = 0;
+};
+// Lets the dialog fill the screen below the title bar, puts an OK button that sends command 1 into
+// the title bar, and lowers the soft input panel, each by its flag.
+BOOL SHInitDialog(SHINITDLGINFO* request);
+
+// Nothing to be done: the handheld raises and lowers the panel by the focus alone.
+BOOL SHHandleWMActivate(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* record,
+                        DWORD flags);
 
 constexpr DWORD SHFS_SHOWTASKBAR = 1;
 constexpr DWORD SHFS_SHOWSIPBUTTON = 4;

@@ -88,6 +88,8 @@ BOOL ShowWindow(HWND window, int showCommand);
 // Sends the WM_PAINT that is due, and brings what was drawn to the screen.
 BOOL UpdateWindow(HWND window);
 BOOL GetClientRect(HWND window, RECT* rectangle);
+// Gives the keyboard to a window or a control.
+void SetFocus(HWND window);
 
 // The window of this class and title, of this process or of another one that runs from the same
 // program folder for the same user; null when there is none.

@@ -10,7 +10,37 @@ constexpr int menuContext = 150;
 constexpr int menuBarMain = 102;
 constexpr int menuBarBitmap = 120;
 constexpr int menuBarImages = 9;
+constexpr int bitmapAbout = 137;
 constexpr int bitmapKeyboard = 138;
+constexpr int bitmapLogoLeft = 145;
+constexpr int bitmapLogoTop = 146;
+constexpr int bitmapLogoRight = 147;
+
+constexpr int dialogAbout = 103;
+constexpr int dialogPreferences = 104;
+constexpr int dialogClueList = 126;
+constexpr int dialogQuickHelp = 127;
+
+// Controls of the clue list.
+constexpr int controlClueTabs = 1024;
+constexpr int controlClues = 1025;
+
+// Controls of the preferences.
+constexpr int controlSmall = 1002;
+constexpr int controlMedium = 1003;
+constexpr int controlLarge = 1004;
+constexpr int controlSizeGroup = 1017;
+constexpr int controlColorGroup = 1018;
+constexpr int controlToggleGroup = 1019;
+constexpr int controlBackgroundColor = 1023;
+constexpr int controlSquareColor = 1024;
+constexpr int controlAutoSkip = 1043;
+constexpr int controlShowNumbers = 1057;
+
+// Controls of quick help and About.
+constexpr int controlHelpOpen = 1037;
+constexpr int controlHelpClose = 1055;
+constexpr int controlAboutClose = 1063;
 
 constexpr int commandClose = 1;
 constexpr int commandExit = 40006;

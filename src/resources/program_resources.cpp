@@ -1,6 +1,7 @@
 // The module's resources by their numbers.
 #include "platform/resources.h"
 #include "platform/windows.h"
+#include "resources/dialogs.h"
 #include "resources/ids.h"
 #include "resources/menus.h"
 
@@ -25,7 +26,20 @@ constexpr ArtResource menuBarArt[] = {
 };
 
 constexpr ArtResource art[] = {
+    {116, "help_about.svg", 19, 19},
+    {123, "help_main.svg", 19, 19},
+    {124, "help_check.svg", 19, 19},
+    {125, "help_hint.svg", 19, 19},
+    {126, "help_size.svg", 19, 19},
+    {127, "help_clues.svg", 19, 19},
+    {128, "help_open.svg", 19, 19},
+    {130, "help_keyboard.svg", 19, 19},
+    {131, "help_direction.svg", 19, 19},
+    {bitmapAbout, "about.svg", 240, 320},
     {bitmapKeyboard, "keyboard.svg", 240, 44},
+    {bitmapLogoLeft, "logo_left.svg", 62, 91},
+    {bitmapLogoTop, "logo_top.svg", 64, 84},
+    {bitmapLogoRight, "logo_right.svg", 27, 84},
 };
 
 constexpr AcceleratorResource accelerators[] = {
@@ -46,11 +60,11 @@ constexpr MenuBarButton menuBarButtons[] = {
     {1, commandCheck, plainButton, noPopup, u"Checks the puzzle", true},
     {2, commandHintMenu, dropDownButton, 1, u"Display a hint", true},
     {4, commandOpen, plainButton, noPopup, u"Select a new puzzle", true},
-    {5, commandClueList, plainButton, noPopup, u"Open the clue list", false},
+    {5, commandClueList, plainButton, noPopup, u"Open the clue list", true},
     {6, commandSizeMenu, dropDownButton, 2, u"Puzzle magnification", true},
     {7, commandToggleDirection, plainButton, noPopup, u"Toggle clues across / down", true},
     {8, commandKeyboard, plainButton, noPopup, u"Display Keyboard", true},
-    {9, commandAbout, plainButton, noPopup, u"About Quadrel", false},
+    {9, commandAbout, plainButton, noPopup, u"About Quadrel", true},
 };
 
 constexpr MenuBarResource menuBars[] = {
@@ -60,4 +74,4 @@ constexpr MenuBarResource menuBars[] = {
 }  // namespace
 
 const ModuleResources programResources = {
-    strings, art, icons, menuBarArt, acceleratorTables, ProgramMenus(), menuBars};
+    strings, art, icons, menuBarArt, acceleratorTables, ProgramMenus(), menuBars, ProgramDialogs()};

@@ -8,6 +8,9 @@
 #include "app/menu_bar.h"
 #include "app/menu_checks.h"
 #include "app/view.h"
+#include "dialogs/about.h"
+#include "dialogs/board_colors.h"
+#include "dialogs/clue_list.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
 #include "platform/dialogs.h"
@@ -41,12 +44,17 @@ void SetDefaultView(HWND window) {
     SipInfo.cbSize = sizeof SipInfo;
 }
 
+void SetDefaultDialogs() {
+    AboutAnimating = 1;
+    ClueListTab = 0;
+    ResetLogoPieces();
+}
+
 void SetDefaultSettings() {
     Magnification = {1, 0, 0};
     AutoSkip = 0;
     ShowNumbers = 0;
-    BackgroundColor = RGB(255, 255, 255);
-    SquareColor = RGB(0, 0, 0);
+    SetUpColorChoosers();
 }
 
 void SetDefaultPuzzle() {
@@ -105,6 +113,7 @@ bool ReadFallbackPuzzle() {
 int InitializeGame(HWND window) {
     MenuBar = CreateMenuBar(window);
     SetDefaultView(window);
+    SetDefaultDialogs();
     SetDefaultSettings();
     SetDefaultPuzzle();
     FindProgramFolder();

@@ -3,6 +3,8 @@
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QColorDialog>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
@@ -17,6 +19,11 @@ namespace {
 
 std::deque<int> plannedAnswers;
 std::deque<std::filesystem::path> plannedFiles;
+struct PlannedColor {
+    COLORREF color;
+    bool accept;
+};
+std::deque<PlannedColor> plannedColors;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
 std::function<void()> duringNextBox;
@@ -59,6 +66,14 @@ void Answer(QFileDialog* dialog) {
     QMetaObject::invokeMethod(dialog, "accept");
 }
 
+void Answer(QColorDialog* dialog) {
+    const PlannedColor planned = TakeNext(plannedColors, PlannedColor{0, false});
+    dialog->setCurrentColor(
+        QColor(GetRValue(planned.color), GetGValue(planned.color), GetBValue(planned.color)));
+    const auto button = planned.accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
+    dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+}
+
 void Answer(QMenu* menu) {
     ++openedMenus;
     menu->close();
@@ -74,6 +89,8 @@ public:
                 QTimer::singleShot(0, box, [box] { Answer(box); });
             } else if (auto* dialog = qobject_cast<QFileDialog*>(object)) {
                 QTimer::singleShot(0, dialog, [dialog] { Answer(dialog); });
+            } else if (auto* colors = qobject_cast<QColorDialog*>(object)) {
+                QTimer::singleShot(0, colors, [colors] { Answer(colors); });
             } else if (auto* menu = qobject_cast<QMenu*>(object)) {
                 QTimer::singleShot(0, menu, [menu] { Answer(menu); });
             }
@@ -102,6 +119,10 @@ std::vector<ShownMessage> TakeShownMessages() {
 
 void ChooseNextFile(const std::filesystem::path& file) {
     plannedFiles.push_back(file);
+}
+
+void PickNextColor(COLORREF color, bool accept) {
+    plannedColors.push_back({color, accept});
 }
 
 int TakeOpenedMenus() {

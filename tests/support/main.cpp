@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "support/boxes.h"
+#include "support/dialogs.h"
 
 namespace {
 
@@ -25,5 +26,6 @@ int main(int argumentCount, char** arguments) {
     QApplication application(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     AnswerBoxes();
+    WatchDialogs();
     return RUN_ALL_TESTS();
 }

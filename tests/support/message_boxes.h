@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/types.h"
+
 struct ShownMessage {
     std::u16string text;
     std::u16string title;
@@ -25,6 +27,9 @@ std::vector<ShownMessage> TakeShownMessages();
 // The file that the next file chooser is given; an empty path cancels it, and so does having
 // planned nothing.
 void ChooseNextFile(const std::filesystem::path& file);
+
+// The colour that the next colour chooser is given, and whether it is accepted or cancelled.
+void PickNextColor(COLORREF color, bool accept);
 
 // How many popup menus were opened since the last call. Each is closed again at once.
 int TakeOpenedMenus();

@@ -176,7 +176,17 @@ HFONT CreateFontIndirectW(const LOGFONTW* description) {
     object->font.face = face == u"System" ? FontChoice::Face::System : FontChoice::Face::Small;
     object->font.bold = description->lfWeight >= 600;
     object->font.height = description->lfHeight != 0 ? description->lfHeight : -12;
+    object->description = *description;
     return object;
+}
+
+int GetObjectW(HGDIOBJ object, int size, void* description) {
+    if (object == nullptr || object->kind != DrawingObject::Kind::Font ||
+        size != static_cast<int>(sizeof(LOGFONTW))) {
+        return 0;
+    }
+    *static_cast<LOGFONTW*>(description) = object->description;
+    return size;
 }
 
 HGDIOBJ GetStockObject(int object) {

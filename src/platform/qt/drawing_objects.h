@@ -18,6 +18,7 @@ struct DrawingObject {
     int selections = 0;                // contexts that hold it; it cannot be deleted meanwhile
     QRgb color = 0;                    // pens and brushes
     FontChoice font{};                 // fonts
+    LOGFONTW description;              // fonts
     std::unique_ptr<Surface> surface;  // bitmaps
 };
 

@@ -8,6 +8,7 @@
 #include <QtWidgets/QApplication>
 #include <csignal>
 
+#include "platform/qt/dialog_box.h"
 #include "platform/qt/message_queue.h"
 #include "platform/qt/window.h"
 
@@ -43,7 +44,7 @@ void WatchSignals() {
 }
 
 void CloseNow() {
-    if (HWND window = TopWindow()) {
+    if (HWND window = BottomWindow()) {
         SendMessageW(window, WM_CLOSE, 0, 0);
     }
 }
@@ -101,7 +102,8 @@ void ForgetEnding() {
 void AskProgramToEnd() {
     endingAsked = true;
     CloseEverythingAbove();
-    PostMessageW(TopWindow(), WM_CLOSE, 0, 0);
+    CloseDialogs();
+    PostMessageW(BottomWindow(), WM_CLOSE, 0, 0);
 }
 
 void TellProgramMinimized() {
@@ -110,6 +112,6 @@ void TellProgramMinimized() {
     } else {
         // A message of the help's window stands above no procedure.
         CloseEverythingAbove();
-        SendMessageW(TopWindow(), WM_SIZE, SIZE_MINIMIZED, 0);
+        SendMessageW(BottomWindow(), WM_SIZE, SIZE_MINIMIZED, 0);
     }
 }

@@ -76,11 +76,9 @@ QSize HostWindow::StartSize() const {
     return QSize(screenWidth, screenHeight) * static_cast<int>(fit);
 }
 
-QWidget* HostWindow::AddClientView(HWND window) {
-    auto* view = new ClientView(this, window);
+void HostWindow::AddView(ClientView* view) {
     view->stackUnder(panel);
-    Place(view, ExactPlace(window->frame));
-    return view;
+    PlaceWidgets();
 }
 
 QRectF HostWindow::ExactPlace(const RECT& area) const {
@@ -95,10 +93,22 @@ POINT HostWindow::LogicalPoint(QPointF point) const {
 }
 
 void HostWindow::SetLook(const std::u16string& title, HICON icon) {
-    const QString text = QString::fromStdU16String(title);
-    setWindowTitle(text);
-    titleBar->SetTitle(text);
+    setWindowTitle(QString::fromStdU16String(title));
     iconToShow = icon;
+}
+
+void HostWindow::ShowTitle(const std::u16string& title) {
+    titleBar->SetTitle(QString::fromStdU16String(title));
+    titleBar->ShowDoneButton(false);
+    PlaceWidgets();
+}
+
+void HostWindow::ShowDoneButton(bool shown) {
+    titleBar->ShowDoneButton(shown);
+}
+
+void HostWindow::EnableMenuBar(bool enabled) {
+    menuBar->setEnabled(enabled);
 }
 
 void HostWindow::ShowIfHidden() {
@@ -130,7 +140,8 @@ void HostWindow::FitScreen() {
 void HostWindow::PlaceWidgets() {
     Place(titleBar, ExactPlace(titleBarArea));
     Place(menuBar, ExactPlace(menuBarArea));
-    Place(panel, ExactPlace(softInputPanelArea));
+    const bool inDialog = TopWindow() != nullptr && TopWindow()->isDialog;
+    Place(panel, ExactPlace(inDialog ? softInputPanelAreaOfDialogs : softInputPanelArea));
     for (ClientView* view : findChildren<ClientView*>(Qt::FindDirectChildrenOnly)) {
         Place(view, ExactPlace(view->ShownWindow()->frame));
     }
@@ -174,7 +185,7 @@ void HostWindow::SetPanelUp(bool up) {
     }
     panel->setVisible(up);
     menuBar->ShowPanelState(up);
-    SendMessageW(TopWindow(), WM_SETTINGCHANGE, SPI_SETSIPINFO, 0);
+    TellPanelChange(TopWindow());
 }
 
 void HostWindow::ShowPanelButton(bool shown) {

@@ -8,6 +8,7 @@
 #include "platform/resources.h"
 #include "platform/windows.h"
 
+class ClientView;
 class MenuBarWidget;
 class SoftInputPanel;
 class TitleBar;
@@ -18,7 +19,8 @@ class HostWindow : public QWidget {
 public:
     HostWindow();
 
-    QWidget* AddClientView(HWND window);
+    // Below the soft input panel and above everything else.
+    void AddView(ClientView* view);
 
     // The widget's exact place, on whole device pixels; a widget covers at least this.
     QRectF ExactPlace(const RECT& area) const;
@@ -30,6 +32,11 @@ public:
     }
 
     void SetLook(const std::u16string& title, HICON icon);
+    // The title bar alone, without a button in it.
+    void ShowTitle(const std::u16string& title);
+    void ShowDoneButton(bool shown);
+    // While a dialog is open, the menu bar takes nothing.
+    void EnableMenuBar(bool enabled);
     void ShowIfHidden();
     void ComeForward();
     void PlaceWidgets();

@@ -20,3 +20,5 @@ const QueuedMessage& CurrentMessage();
 bool InsideProcedure();
 
 void DropMessagesOf(HWND window);
+// Keys, stylus and commands only.
+void DropInputOf(HWND window);

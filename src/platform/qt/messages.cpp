@@ -35,6 +35,13 @@ bool IsKey(UINT message) {
     return message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
 }
 
+bool IsInput(UINT message) {
+    constexpr UINT firstOfStylus = WM_MOUSEMOVE;
+    constexpr UINT lastOfStylus = WM_LBUTTONUP;
+    return IsKey(message) || message == WM_COMMAND ||
+           (message >= firstOfStylus && message <= lastOfStylus);
+}
+
 }  // namespace
 
 void PostMessage(const QueuedMessage& message) {
@@ -57,6 +64,12 @@ void DropMessagesOf(HWND window) {
     std::erase_if(queue,
                   [window](const QueuedMessage& queued) { return queued.message.hwnd == window; });
     std::erase_if(timers, [window](const auto& timer) { return timer.first.first == window; });
+}
+
+void DropInputOf(HWND window) {
+    std::erase_if(queue, [window](const QueuedMessage& queued) {
+        return queued.message.hwnd == window && IsInput(queued.message.message);
+    });
 }
 
 LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,4 +1,4 @@
-// Strings and icons by number.
+// Strings, dialogs and icons by number.
 #include "platform/resources.h"
 
 #include <algorithm>
@@ -19,6 +19,16 @@ int LoadStringW(HINSTANCE instance, UINT id, WCHAR* buffer, int bufferSize) {
     text = text.substr(0, static_cast<size_t>(bufferSize) - 1);
     buffer[text.copy(buffer, text.size())] = 0;
     return static_cast<int>(text.size());
+}
+
+HRSRC FindResourceW(HINSTANCE instance, int id, int type) {
+    const auto found = std::find_if(instance->dialogs.begin(), instance->dialogs.end(),
+                                    [id](const DialogResource& dialog) { return dialog.id == id; });
+    return type != RT_DIALOG || found == instance->dialogs.end() ? nullptr : &*found;
+}
+
+HGLOBAL LoadResource(HINSTANCE, HRSRC resource) {
+    return resource;
 }
 
 HICON LoadIconW(HINSTANCE instance, int id) {

@@ -32,8 +32,27 @@ BOOL SHHandleWMSettingChange(HWND window, WPARAM, LPARAM, SHACTIVATEINFO*) {
     if (!IsLiveWindow(window)) {
         return FALSE;
     }
-    MoveWindow(window, WindowArea(Host().PanelUp()));
+    const bool up = Host().PanelUp();
+    MoveWindow(window, window->isDialog ? DialogArea(up) : WindowArea(up));
     return TRUE;
+}
+
+BOOL SHInitDialog(SHINITDLGINFO* request) {
+    if (!IsLiveWindow(request->hDlg) || (request->dwMask & SHIDIM_FLAGS) == 0) {
+        return FALSE;
+    }
+    if ((request->dwFlags & SHIDIF_SIPDOWN) != 0) {
+        Host().SetPanelUp(false);
+    }
+    if ((request->dwFlags & (SHIDIF_SIZEDLGFULLSCREEN | SHIDIF_FULLSCREENNOMENUBAR)) != 0) {
+        MoveWindow(request->hDlg, DialogArea(Host().PanelUp()));
+    }
+    Host().ShowDoneButton((request->dwFlags & SHIDIF_DONEBUTTON) != 0);
+    return TRUE;
+}
+
+BOOL SHHandleWMActivate(HWND window, WPARAM, LPARAM, SHACTIVATEINFO*, DWORD) {
+    return IsLiveWindow(window);
 }
 
 BOOL SHFullScreen(HWND window, DWORD state) {

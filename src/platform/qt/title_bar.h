@@ -1,7 +1,7 @@
 // The bar at the top of the screen with the title of the program.
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QAbstractButton>
 
 class HostWindow;
 
@@ -11,11 +11,15 @@ class TitleBar : public QWidget {
 public:
     explicit TitleBar(HostWindow* host);
     void SetTitle(const QString& text);
+    // The shell's OK, which sends command 1 to the top window.
+    void ShowDoneButton(bool shown);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     HostWindow* host;
     QString title;
+    QAbstractButton* doneButton = nullptr;  // made for the first dialog
 };

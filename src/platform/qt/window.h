@@ -17,6 +17,8 @@ struct Window {
     bool visible = false;
     bool active = false;
     bool paintDue = false;
+    bool isDialog = false;
+    bool toldPanelUp = false;  // the soft input panel as the window knows it
     std::unique_ptr<Surface> surface;
     QPointer<QWidget> widget;  // shows the window; owned by the host window
 };
@@ -26,6 +28,17 @@ bool IsLiveWindow(HWND window);
 
 // The window that input and shell changes go to; null when there is none.
 HWND TopWindow();
+// The program's main window, whatever lies over it; null when there is none.
+HWND BottomWindow();
+
+class ClientView;
+// A new window, not yet shown, over all others.
+void PutOnTop(HWND window, const RECT& frame, ClientView* view);
+// After a window over it has gone: the top window gets its title bar back, hears what happened to
+// the soft input panel meanwhile, and becomes active.
+void ReturnToTopWindow();
+// Sends WM_SETTINGCHANGE.
+void TellPanelChange(HWND window);
 
 // Null for a window that is gone.
 Surface* SurfaceOf(HWND window);

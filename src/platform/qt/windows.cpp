@@ -11,12 +11,14 @@
 #include <vector>
 
 #include "platform/qt/client_view.h"
+#include "platform/qt/control.h"
 #include "platform/qt/endings.h"
 #include "platform/qt/host_window.h"
 #include "platform/qt/message_queue.h"
 #include "platform/qt/screen_layout.h"
 #include "platform/qt/single_instance.h"
 #include "platform/qt/window.h"
+#include "platform/shell.h"
 
 namespace {
 
@@ -46,10 +48,7 @@ HWND OpenWindow(const WNDCLASSW& windowClass, const WCHAR* title, const RECT& fr
     window->className = windowClass.lpszClassName;
     window->title = title;
     window->procedure = windowClass.lpfnWndProc;
-    window->frame = frame;
-    window->surface = std::make_unique<Surface>(Width(frame), Height(frame));
-    window->widget = Host().AddClientView(window);
-    windows.push_back(window);
+    PutOnTop(window, frame, new ClientView(&Host(), window));
     return window;
 }
 
@@ -63,11 +62,45 @@ void ForgetWindow(HWND window) {
 }  // namespace
 
 bool IsLiveWindow(HWND window) {
-    return std::find(windows.begin(), windows.end(), window) != windows.end();
+    return std::find(windows.begin(), windows.end(), window) != windows.end() ||
+           AsControl(window) != nullptr;
 }
 
 HWND TopWindow() {
     return windows.empty() ? nullptr : windows.back();
+}
+
+HWND BottomWindow() {
+    return windows.empty() ? nullptr : windows.front();
+}
+
+void PutOnTop(HWND window, const RECT& frame, ClientView* view) {
+    window->frame = frame;
+    window->surface = std::make_unique<Surface>(Width(frame), Height(frame));
+    window->widget = view;
+    window->toldPanelUp = Host().PanelUp();
+    windows.push_back(window);
+    Host().AddView(view);
+    Host().ShowTitle(window->title);
+}
+
+void ReturnToTopWindow() {
+    HWND window = TopWindow();
+    if (window == nullptr) {
+        return;
+    }
+    Host().ShowTitle(window->title);
+    if (window->toldPanelUp != Host().PanelUp()) {
+        TellPanelChange(window);
+    }
+    SetActive(window, true);
+}
+
+void TellPanelChange(HWND window) {
+    if (IsLiveWindow(window)) {
+        window->toldPanelUp = Host().PanelUp();
+        SendMessageW(window, WM_SETTINGCHANGE, SPI_SETSIPINFO, 0);
+    }
 }
 
 Surface* SurfaceOf(HWND window) {
@@ -196,6 +229,12 @@ BOOL GetClientRect(HWND window, RECT* rectangle) {
     return TRUE;
 }
 
+void SetFocus(HWND window) {
+    if (IsLiveWindow(window) && window->widget != nullptr) {
+        window->widget->setFocus();
+    }
+}
+
 HWND FindWindowW(const WCHAR* className, const WCHAR* title) {
     for (HWND window : windows) {
         if (window->className == className && window->title == title) {
@@ -216,7 +255,8 @@ BOOL SetForegroundWindow(HWND window) {
         return FALSE;
     }
     Host().ComeForward();
-    SetActive(plain, true);
+    // What lies over it comes along and stays over it.
+    SetActive(TopWindow(), true);
     return TRUE;
 }
 
