@@ -348,8 +348,6 @@ TEST_F(Commands, DisabledItemsAndButtonsCannotBeChosen) {
         }
     }
     EXPECT_EQ(disabled, (QStringList{"Puzzles/Download"}));
-    EXPECT_FALSE(handheld->PressButton("Open the clue list"));
-    EXPECT_FALSE(handheld->PressButton("About Quadrel"));
     EXPECT_TRUE(handheld->Running());
     EXPECT_EQ(handheld->Client(), before);
 }
@@ -406,9 +404,16 @@ TEST_F(MenuBarKeys, F10AndAltGoToTheBarAndBack) {
 
 // Disabled buttons are skipped; the panel's is the last one.
 TEST_F(MenuBarKeys, ArrowsGoAroundTheButtonsThatCanBePressed) {
-    const std::vector<std::string> expected = {
-        mainMenu, "Checks the puzzle",          hintMenu,           "Select a new puzzle",
-        sizeMenu, "Toggle clues across / down", "Display Keyboard", "Keyboard"};
+    const std::vector<std::string> expected = {mainMenu,
+                                               "Checks the puzzle",
+                                               hintMenu,
+                                               "Select a new puzzle",
+                                               "Open the clue list",
+                                               sizeMenu,
+                                               "Toggle clues across / down",
+                                               "Display Keyboard",
+                                               "About Quadrel",
+                                               "Keyboard"};
     Key(Qt::Key_F10);
     for (const std::string& button : expected) {
         EXPECT_EQ(FocusedButton(), button);
@@ -424,7 +429,7 @@ TEST_F(MenuBarKeys, ArrowsGoAroundTheButtonsThatCanBePressed) {
 TEST_F(MenuBarKeys, EnterPressesTheButtonAndGivesTheKeysBack) {
     Play(lopsidedBoard, smallSize);
     Key(Qt::Key_F10);
-    for (int step = 0; step < 5; ++step) {
+    for (int step = 0; step < 6; ++step) {
         Key(Qt::Key_Right);
     }
     Key(Qt::Key_Return);

@@ -1,0 +1,129 @@
+#include "dialogs/preferences.h"
+
+#include "app/menu_checks.h"
+#include "app/view.h"
+#include "dialogs/board_colors.h"
+#include "dialogs/full_screen.h"
+#include "platform/controls.h"
+#include "platform/drawing.h"
+#include "platform/windows.h"
+#include "play/settings.h"
+#include "resources/ids.h"
+
+namespace {
+
+// Live while the dialog is open.
+HFONT captionFont = nullptr;
+HBRUSH squareBrush = nullptr;
+HBRUSH backgroundBrush = nullptr;
+
+void MakeCaptionsBold(HWND dialog) {
+    constexpr LONG bold = 700;
+    const LRESULT font = SendDlgItemMessageW(dialog, controlSizeGroup, WM_GETFONT, 0, 0);
+    LOGFONTW description;
+    GetObjectW(reinterpret_cast<HFONT>(font), sizeof description, &description);
+    description.lfWeight = bold;
+    captionFont = CreateFontIndirectW(&description);
+    for (int group : {controlSizeGroup, controlToggleGroup, controlColorGroup}) {
+        SendDlgItemMessageW(dialog, group, WM_SETFONT, reinterpret_cast<WPARAM>(captionFont), TRUE);
+    }
+}
+
+void SetCheck(HWND dialog, int control, int setting) {
+    const WPARAM state = setting == 1 ? BST_CHECKED : BST_UNCHECKED;
+    SendDlgItemMessageW(dialog, control, BM_SETCHECK, state, 0);
+}
+
+bool IsChecked(HWND dialog, int control) {
+    return SendDlgItemMessageW(dialog, control, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+void ShowSettings(HWND dialog) {
+    SetCheck(dialog, controlSmall, Magnification.Small);
+    SetCheck(dialog, controlMedium, Magnification.Medium);
+    SetCheck(dialog, controlLarge, Magnification.Large);
+    SetCheck(dialog, controlAutoSkip, AutoSkip);
+    SetCheck(dialog, controlShowNumbers, ShowNumbers);
+}
+
+void TakeSettings(HWND dialog) {
+    if (IsChecked(dialog, controlSmall)) {
+        Magnification = {1, 0, 0};
+    } else if (IsChecked(dialog, controlMedium)) {
+        Magnification = {0, 1, 0};
+    } else if (IsChecked(dialog, controlLarge)) {
+        Magnification = {0, 0, 1};
+    }
+    AutoSkip = IsChecked(dialog, controlAutoSkip) ? 1 : 0;
+    ShowNumbers = IsChecked(dialog, controlShowNumbers) ? 1 : 0;
+    UpdateMenuChecks();
+}
+
+void Open(HWND dialog) {
+    MakeCaptionsBold(dialog);
+    ShowSettings(dialog);
+    FillScreen(dialog, wholeScreen);
+}
+
+LRESULT RenewBrush(HBRUSH& brush, COLORREF color) {
+    DeleteObject(brush);
+    brush = CreateSolidBrush(color);
+    return reinterpret_cast<LRESULT>(brush);
+}
+
+LRESULT ButtonBrush(HWND dialog, HWND button) {
+    if (button == GetDlgItem(dialog, controlSquareColor)) {
+        return RenewBrush(squareBrush, SquareColor);
+    }
+    if (button == GetDlgItem(dialog, controlBackgroundColor)) {
+        return RenewBrush(backgroundBrush, BackgroundColor);
+    }
+    return 0;
+}
+
+LRESULT WhiteBrush() {
+    return reinterpret_cast<LRESULT>(GetStockObject(WHITE_BRUSH));
+}
+
+void HandleCommand(HWND dialog, int command) {
+    switch (command) {
+        case controlSquareColor: PickSquareColor(dialog); break;
+        case controlBackgroundColor: PickBackgroundColor(dialog); break;
+        case IDOK:
+            TakeSettings(dialog);
+            CloseDialogBox(dialog);
+            break;
+        default: break;
+    }
+}
+
+void FollowActivation(HWND dialog, WPARAM wParam, LPARAM lParam) {
+    if (LOWORD(wParam) != WA_INACTIVE) {
+        SHHandleWMActivate(dialog, wParam, lParam, &ShellActivateInfo, 0);
+    }
+}
+
+LRESULT PreferencesProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_INITDIALOG: Open(dialog); return TRUE;
+        case WM_COMMAND: HandleCommand(dialog, LOWORD(wParam)); return TRUE;
+        case WM_CTLCOLORBTN: return ButtonBrush(dialog, reinterpret_cast<HWND>(lParam));
+        case WM_CTLCOLORDLG:
+        case WM_CTLCOLORSTATIC: return WhiteBrush();
+        case WM_ACTIVATE: FollowActivation(dialog, wParam, lParam); return FALSE;
+        case WM_SETTINGCHANGE:
+            SHHandleWMSettingChange(dialog, wParam, lParam, &ShellActivateInfo);
+            return FALSE;
+        default: return FALSE;
+    }
+}
+
+}  // namespace
+
+void ShowPreferences(HWND owner) {
+    RunDialogBox(owner, dialogPreferences, PreferencesProc);
+    for (HGDIOBJ* object : {&captionFont, &squareBrush, &backgroundBrush}) {
+        DeleteObject(*object);
+        *object = nullptr;
+    }
+}

@@ -1,0 +1,8 @@
+// The templates of the dialogs.
+#pragma once
+
+#include <span>
+
+#include "platform/resources.h"
+
+std::span<const DialogResource> ProgramDialogs();

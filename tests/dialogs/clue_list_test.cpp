@@ -1,0 +1,181 @@
+#include <algorithm>
+
+#include "app/view.h"
+#include "platform/dialogs.h"
+#include "resources/ids.h"
+#include "support/dialogs.h"
+#include "support/played_board.h"
+
+namespace {
+
+constexpr const char* clueListButton = "Open the clue list";
+constexpr int across = 0;
+constexpr int down = 1;
+
+// Down words start at 1 to 9 in the first row and at 10 below it; the rest have across words, too.
+const BoardRows manyNumbers = {
+    "ABCD.EFGHI.J",  //
+    "KLMN.OPQRS.T",  //
+    "UV.WXYZ.ABCD",  //
+    "EF.GHIJ.KLMN",  //
+    "..O.........",  //
+    "PQRSTUVWXYZA",  //
+    "BC.DEFG.HIJK",  //
+    "LM.NOPQ.RSTU",  //
+    "VWXY.ZABC.DE",  //
+    "FGHI.JKLM.NO",  //
+    "PQRS.TUVW.XY",  //
+    "ZABC.DEFG.HI",
+};
+
+class ClueList : public PlayedBoard {
+protected:
+    void Start(const BoardRows& rows, MagnificationFlags size = smallSize) {
+        Open(PuzzleBytes(rows));
+        Play(rows, size);
+        SelectCell(1, 1, 0);
+    }
+    void Open(const std::string& bytes) {
+        const auto file = home.documents() / "listed.puz";
+        WriteBytes(file, bytes);
+        ChooseNextFile(file);
+        AnswerNextMessageBox(IDYES);
+        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+        TakeShownMessages();
+    }
+    void Use(const std::function<void(OpenDialog&)>& use) {
+        UseDialog(
+            *handheld, [this] { handheld->PressButton(clueListButton); }, use);
+    }
+    void ExpectSelection(int row, int col, int direction) {
+        EXPECT_EQ(CursorRow, row);
+        EXPECT_EQ(CursorCol, col);
+        EXPECT_EQ(Direction, direction);
+    }
+};
+
+TEST_F(ClueList, LinesStandBelowEachOtherAndTellTheirTabsApart) {
+    std::vector<std::string> texts = {"Title", "Author", "Copyright"};
+    for (size_t i = 0; i < WordsOf(manyNumbers).size(); ++i) {
+        texts.push_back("Clue");
+    }
+    texts[3] = "Caf\xE9 \x93quoted\x94";
+    Open(PuzzleOfBoard(manyNumbers, texts).Bytes());
+    SelectCell(0, 0, down);
+    Use([](OpenDialog& dialog) {
+        EXPECT_EQ(dialog.Title(), "Quadrel Clues");
+        const std::vector<std::string> lines = dialog.Lines(controlClues);
+        EXPECT_EQ(lines[0], "1.  Café “quoted” (4)");
+        EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
+        EXPECT_TRUE(dialog.HasFocus(controlClues));
+        EXPECT_NE(std::find(lines.begin(), lines.end(), "11. Clue (4)"), lines.end());
+        dialog.TapTab(controlClueTabs, down);
+        const std::vector<std::string> downLines = dialog.Lines(controlClues);
+        ASSERT_GE(downLines.size(), 10u);
+        EXPECT_EQ(downLines[8], "9.  Clue  (4)");
+        EXPECT_EQ(downLines[9], "10. Clue  (4)");
+    });
+}
+
+TEST_F(ClueList, TappingALineGoesToTheFirstCellOfItsWord) {
+    Start(squareBoard, mediumSize);
+    const std::vector<PlainWord> words = WordsOf(squareBoard);
+    for (int direction : {across, down}) {
+        int line = 0;
+        for (const PlainWord& word : words) {
+            if (word.direction != direction) {
+                continue;
+            }
+            Use([&](OpenDialog& dialog) {
+                dialog.TapTab(controlClueTabs, direction);
+                dialog.TapLine(controlClues, line);
+                EXPECT_FALSE(dialog.IsOpen());
+            });
+            ExpectSelection(word.row, word.col, direction);
+            ++line;
+        }
+    }
+}
+
+TEST_F(ClueList, TheChosenWordIsShownAtOnceAndScrolledTo) {
+    Start(manyNumbers, largeSize);
+    handheld->Tap(30, 30);
+    Use([](OpenDialog& dialog) {
+        const int last = static_cast<int>(dialog.Lines(controlClues).size()) - 1;
+        dialog.TapLine(controlClues, last);
+    });
+    EXPECT_GT(ScrollY, 0);
+    EXPECT_EQ(ClueChosen, 0);
+    const QImage shown = handheld->Client();
+    RepaintFully(MainWindow);
+    EXPECT_EQ(handheld->Client(), shown);
+}
+
+TEST_F(ClueList, ArrowsOnlyMoveAndEnterOrSpaceTakesTheLine) {
+    Start(squareBoard);
+    for (int key : {int(Qt::Key_Return), int(Qt::Key_Space)}) {
+        Use([&](OpenDialog& dialog) {
+            dialog.Press(Qt::Key_Down);
+            dialog.Press(Qt::Key_Down);
+            EXPECT_TRUE(dialog.IsOpen());
+            EXPECT_EQ(dialog.SelectedLine(controlClues), 1);
+            dialog.Press(key);
+            EXPECT_FALSE(dialog.IsOpen());
+        });
+        ExpectSelection(0, 4, across);
+        SelectCell(1, 1, 0);
+    }
+}
+
+TEST_F(ClueList, NothingIsChosenByClosing) {
+    Start(squareBoard);
+    SelectCell(3, 2, down);
+    const std::function<void(OpenDialog&)> ways[] = {
+        [](OpenDialog& dialog) { dialog.Press(Qt::Key_Return); },
+        [](OpenDialog& dialog) { dialog.Press(Qt::Key_Escape); },
+        [](OpenDialog& dialog) { dialog.Tap(commandClose); },
+        [](OpenDialog& dialog) { dialog.TapTitleOk(); },
+        [](OpenDialog& dialog) {
+            dialog.Press(Qt::Key_Down);
+            dialog.Tap(commandClose);
+        },
+    };
+    for (const auto& way : ways) {
+        Use([&](OpenDialog& dialog) {
+            way(dialog);
+            EXPECT_FALSE(dialog.IsOpen());
+        });
+        ExpectSelection(3, 2, down);
+        EXPECT_EQ(ClueChosen, 0);
+    }
+}
+
+TEST_F(ClueList, ATabIsFilledAnewEachTime) {
+    Start(squareBoard);
+    Use([](OpenDialog& dialog) {
+        const std::vector<std::string> acrossLines = dialog.Lines(controlClues);
+        dialog.Press(Qt::Key_Down);
+        dialog.TapTab(controlClueTabs, down);
+        EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
+        EXPECT_TRUE(dialog.HasFocus(controlClues));
+        EXPECT_NE(dialog.Lines(controlClues), acrossLines);
+        dialog.TapTab(controlClueTabs, across);
+        EXPECT_EQ(dialog.Lines(controlClues), acrossLines);
+    });
+    Use([](OpenDialog& dialog) { dialog.TapTab(controlClueTabs, down); });
+    Use([](OpenDialog& dialog) { EXPECT_EQ(dialog.Lines(controlClues)[0], "1.  Clue 0 (3)"); });
+}
+
+TEST_F(ClueList, APuzzleWithoutWordsHasNothingToChoose) {
+    Start({"A.", ".B"});
+    Use([](OpenDialog& dialog) {
+        EXPECT_TRUE(dialog.Lines(controlClues).empty());
+        dialog.Tap(controlClues);
+        dialog.TapTab(controlClueTabs, down);
+        EXPECT_TRUE(dialog.Lines(controlClues).empty());
+        EXPECT_TRUE(dialog.IsOpen());
+    });
+    ExpectSelection(1, 1, 0);
+}
+
+}  // namespace

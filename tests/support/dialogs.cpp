@@ -1,0 +1,174 @@
+#include "support/dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QTimer>
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QTabBar>
+#include <utility>
+
+#include "platform/dialogs.h"
+#include "platform/qt/dialog_view.h"
+#include "platform/qt/host_window.h"
+#include "platform/qt/title_bar.h"
+#include "platform/qt/window.h"
+
+namespace {
+
+std::function<void()> plannedUse;
+
+class DialogWatcher : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        auto* view = qobject_cast<DialogView*>(object);
+        if (event->type() == QEvent::Show && view != nullptr) {
+            const auto closeAtOnce = [view] { EndDialog(view->ShownWindow(), 0); };
+            QTimer::singleShot(0, view,
+                               plannedUse ? std::exchange(plannedUse, nullptr) : closeAtOnce);
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+void WatchDialogs() {
+    QCoreApplication::instance()->installEventFilter(
+        new DialogWatcher(QCoreApplication::instance()));
+}
+
+void UseDialog(Handheld& handheld, const std::function<void()>& open,
+               const std::function<void(OpenDialog&)>& use) {
+    bool used = false;
+    plannedUse = [&] {
+        used = true;
+        // Arrow keys ask the application where the focus is.
+        QApplication::setActiveWindow(&Host());
+        OpenDialog dialog(handheld);
+        use(dialog);
+        if (dialog.IsOpen()) {
+            dialog.TapTitleOk();
+        }
+        // Its loop waits for a message that was handled here already.
+        PostMessageW(TopWindow(), 0, 0, 0);
+    };
+    open();
+    handheld.Settle();
+    EXPECT_TRUE(used);
+    plannedUse = nullptr;
+}
+
+OpenDialog::OpenDialog(Handheld& its) : handheld(its), window(TopWindow()) {
+    EXPECT_TRUE(window->isDialog);
+}
+
+bool OpenDialog::IsOpen() const {
+    return IsLiveWindow(window) && window->visible;
+}
+
+std::string OpenDialog::Title() const {
+    return QString::fromStdU16String(window->title).toStdString();
+}
+
+QWidget* OpenDialog::Widget(int control) const {
+    auto* widget = window->widget->findChild<QWidget*>(QString::number(control));
+    EXPECT_NE(widget, nullptr) << control;
+    return widget;
+}
+
+void OpenDialog::Click(QWidget* widget, QPointF place) {
+    for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton, held,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &event);
+    }
+    handheld.Settle();
+}
+
+void OpenDialog::Tap(int control) {
+    QWidget* widget = Widget(control);
+    if ((widget->focusPolicy() & Qt::ClickFocus) != 0) {
+        widget->setFocus(Qt::MouseFocusReason);
+    }
+    Click(widget, QPointF(widget->height() / 2.0, widget->height() / 2.0));
+}
+
+void OpenDialog::TapLine(int list, int line) {
+    auto* widget = qobject_cast<QListWidget*>(Widget(list));
+    ASSERT_LT(line, widget->count());
+    widget->scrollToItem(widget->item(line));
+    Click(widget->viewport(), widget->visualItemRect(widget->item(line)).center());
+}
+
+void OpenDialog::TapTab(int tabs, int tab) {
+    auto* widget = qobject_cast<QTabBar*>(Widget(tabs));
+    Click(widget, widget->tabRect(tab).center());
+}
+
+void OpenDialog::TapAt(int x, int y) {
+    const double magnification = Host().Magnification();
+    Click(window->widget, QPointF((x + 0.5) * magnification, (y + 0.5) * magnification));
+}
+
+void OpenDialog::TapTitleOk() {
+    auto* button = Host().findChild<TitleBar*>()->findChild<QAbstractButton*>();
+    Click(button, button->rect().center());
+}
+
+void OpenDialog::Press(int key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier,
+                    key == Qt::Key_Space ? QString(" ") : QString());
+    QWidget* focus = Host().focusWidget();
+    QCoreApplication::sendEvent(focus, &press);
+    if (IsOpen()) {
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(focus, &release);
+    }
+    handheld.Settle();
+}
+
+void OpenDialog::Type(int edit, const QString& text) {
+    Widget(edit)->setFocus(Qt::TabFocusReason);
+    for (QChar each : text) {
+        QKeyEvent press(QEvent::KeyPress, each.toUpper().unicode(), Qt::NoModifier, each);
+        QCoreApplication::sendEvent(Widget(edit), &press);
+    }
+    handheld.Settle();
+}
+
+std::vector<std::string> OpenDialog::Lines(int list) const {
+    std::vector<std::string> lines;
+    const auto* widget = qobject_cast<QListWidget*>(Widget(list));
+    for (int line = 0; line < widget->count(); ++line) {
+        lines.push_back(widget->item(line)->text().toStdString());
+    }
+    return lines;
+}
+
+int OpenDialog::SelectedLine(int list) const {
+    return qobject_cast<QListWidget*>(Widget(list))->currentRow();
+}
+
+bool OpenDialog::IsChecked(int control) const {
+    return qobject_cast<QAbstractButton*>(Widget(control))->isChecked();
+}
+
+bool OpenDialog::HasFocus(int control) const {
+    return Host().focusWidget() == Widget(control);
+}
+
+std::string OpenDialog::TextOf(int control) const {
+    const auto* edit = qobject_cast<QLineEdit*>(Widget(control));
+    return (edit != nullptr ? edit->text() : QString()).toStdString();
+}
+
+QImage OpenDialog::Drawn() const {
+    return window->surface->Image().copy();
+}

@@ -1,0 +1,55 @@
+// Using the program's dialogs through their real controls, as a person does.
+#pragma once
+
+#include <QtGui/QImage>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "support/handheld.h"
+
+class QWidget;
+
+// The dialog that is open.
+class OpenDialog {
+public:
+    explicit OpenDialog(Handheld& handheld);
+
+    // Whether it is still open.
+    bool IsOpen() const;
+    std::string Title() const;
+
+    void Tap(int control);
+    void TapLine(int list, int line);
+    void TapTab(int tabs, int tab);
+    // A place that no control covers, in the logical pixels of the dialog.
+    void TapAt(int x, int y);
+    void TapTitleOk();
+    // A key for whatever has the focus.
+    void Press(int key);
+    void Type(int edit, const QString& text);
+
+    std::vector<std::string> Lines(int list) const;
+    // -1 when none is selected.
+    int SelectedLine(int list) const;
+    bool IsChecked(int control) const;
+    bool HasFocus(int control) const;
+    std::string TextOf(int control) const;
+    QWidget* Widget(int control) const;
+    // What the dialog itself has drawn, under its controls.
+    QImage Drawn() const;
+
+private:
+    void Click(QWidget* widget, QPointF place);
+
+    Handheld& handheld;
+    HWND window;
+};
+
+// Opens a dialog by whatever `open` does and uses it; what is still open then is closed by the OK
+// in its title bar. Fails when no dialog opens.
+void UseDialog(Handheld& handheld, const std::function<void()>& open,
+               const std::function<void(OpenDialog&)>& use);
+
+// For the main program of the tests. A dialog that nobody planned to use is closed at once.
+void WatchDialogs();

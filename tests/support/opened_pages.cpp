@@ -1,0 +1,34 @@
+#include "support/opened_pages.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QTextBrowser>
+
+#include "platform/qt/help_window.h"
+#include "support/message_boxes.h"
+
+OpenedPages::OpenedPages() : path(qgetenv("PATH")) {
+    qputenv("PATH", "/nowhere");
+    // An absolute path in either of these is a browser in spite of PATH.
+    qunsetenv("BROWSER");
+    qunsetenv("DEFAULT_BROWSER");
+}
+
+OpenedPages::~OpenedPages() {
+    qputenv("PATH", path);
+}
+
+std::vector<std::string> OpenedPages::Take() {
+    std::vector<std::string> pages;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* help = qobject_cast<HelpWindow*>(widget);
+        if (help != nullptr && help->isVisible()) {
+            const QUrl shown = help->findChild<QTextBrowser*>()->source();
+            pages.push_back(shown.fragment().toStdString());
+            help->close();
+        }
+    }
+    for (const ShownMessage& message : TakeShownMessages()) {
+        pages.push_back(QString::fromStdU16String(message.text).toStdString());
+    }
+    return pages;
+}
