@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QMenu>
 #include <algorithm>
@@ -10,7 +9,6 @@
 
 #include "board/board_picture.h"
 #include "platform/dialogs.h"
-#include "platform/qt/host_window.h"
 #include "storage/paths.h"
 #include "support/menus.h"
 
@@ -364,80 +362,6 @@ TEST_F(Commands, PopupsAreBuiltOnce) {
         EXPECT_EQ(second.popup->findChildren<QObject*>(), children);
         EXPECT_EQ(first.items, second.items);
     }
-}
-
-// The menu bar without a stylus.
-class MenuBarKeys : public Commands {
-protected:
-    // The headless screen does not see that a window which was hidden is active again; another
-    // one that comes and goes makes it look.
-    MenuBarKeys() {
-        QWidget other;
-        other.show();
-        handheld->Settle();
-        other.hide();
-        Host().activateWindow();
-        handheld->Settle();
-    }
-    static std::string FocusedButton() {
-        QWidget* focus = Host().focusWidget();
-        return focus == nullptr ? "" : focus->toolTip().toStdString();
-    }
-    void Key(int key) {
-        PressFocusedKey(*handheld, key);
-    }
-};
-
-TEST_F(MenuBarKeys, F10AndAltGoToTheBarAndBack) {
-    Play(lopsidedBoard, smallSize);
-    for (int key : {Qt::Key_F10, Qt::Key_Alt}) {
-        for (int back : {int{Qt::Key_Escape}, key}) {
-            Key(key);
-            EXPECT_EQ(FocusedButton(), mainMenu);
-            Key(Qt::Key_K);
-            Key(back);
-            EXPECT_EQ(FocusedButton(), "");
-            EXPECT_EQ(PlayerLetters().find('K'), std::string::npos) << "typed into the bar";
-        }
-    }
-    Key(Qt::Key_K);
-    EXPECT_EQ(PlayerLetters()[0], 'K');
-}
-
-// Disabled buttons are skipped; the panel's is the last one.
-TEST_F(MenuBarKeys, ArrowsGoAroundTheButtonsThatCanBePressed) {
-    const std::vector<std::string> expected = {
-        mainMenu, "Checks the puzzle",          hintMenu,           "Select a new puzzle",
-        sizeMenu, "Toggle clues across / down", "Display Keyboard", "Keyboard"};
-    Key(Qt::Key_F10);
-    for (const std::string& button : expected) {
-        EXPECT_EQ(FocusedButton(), button);
-        Key(Qt::Key_Right);
-    }
-    EXPECT_EQ(FocusedButton(), mainMenu);
-    for (auto button = expected.rbegin(); button != expected.rend(); ++button) {
-        Key(Qt::Key_Left);
-        EXPECT_EQ(FocusedButton(), *button);
-    }
-}
-
-TEST_F(MenuBarKeys, EnterPressesTheButtonAndGivesTheKeysBack) {
-    Play(lopsidedBoard, smallSize);
-    Key(Qt::Key_F10);
-    for (int step = 0; step < 5; ++step) {
-        Key(Qt::Key_Right);
-    }
-    Key(Qt::Key_Return);
-    EXPECT_EQ(Direction, 1);
-    EXPECT_EQ(FocusedButton(), "");
-    TakeOpenedMenus();
-    Key(Qt::Key_F10);
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Down);
-    EXPECT_EQ(TakeOpenedMenus(), 1) << "an arrow opens the popup";
-    Key(Qt::Key_K);
-    EXPECT_EQ(PlayerLetters()[0], 'K');
 }
 
 }  // namespace

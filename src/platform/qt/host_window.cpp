@@ -6,7 +6,6 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
-#include <QtWidgets/QApplication>
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +16,7 @@
 #include "platform/qt/icon_object.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_bar.h"
+#include "platform/qt/menu_object.h"
 #include "platform/qt/message_queue.h"
 #include "platform/qt/soft_input_panel.h"
 #include "platform/qt/title_bar.h"
@@ -183,9 +183,7 @@ void HostWindow::ShowPanelButton(bool shown) {
 
 void HostWindow::resizeEvent(QResizeEvent*) {
     // A popup has the size and the place that it was opened with.
-    if (QWidget* popup = QApplication::activePopupWidget()) {
-        popup->close();
-    }
+    ClosePopups();
     FitScreen();
 }
 

@@ -1,6 +1,7 @@
 // Menus: the toolkit's own popups over the program's menu resources.
 #include "platform/menus.h"
 
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QProxyStyle>
 #include <algorithm>
 #include <map>
@@ -139,6 +140,14 @@ QMenu* PopupOf(HMENU menu, HWND window) {
     menu->owner = window;
     SizeWithScreen(menu->popup);
     return menu->popup;
+}
+
+void ClosePopups() {
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) {
+            break;
+        }
+    }
 }
 
 BOOL TrackPopupMenuEx(HMENU menu, UINT, int x, int y, HWND window, void*) {
