@@ -17,7 +17,8 @@ int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     box.setText(QString::fromUtf16(text));
     box.setIcon((style & MB_ICONQUESTION) != 0 ? QMessageBox::Question : QMessageBox::NoIcon);
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
+    // A stray Enter must not clear a puzzle, and no style bit tells the harmless questions.
+    box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
     const int answer = RunModal(box);
     if (!question) {
         return IDOK;
