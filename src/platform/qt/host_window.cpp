@@ -6,6 +6,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
 #include <algorithm>
 #include <utility>
 
@@ -101,6 +102,12 @@ void HostWindow::SetLook(const std::u16string& title, HICON icon) {
     iconToShow = icon;
 }
 
+void HostWindow::ShowIcon() {
+    if (HICON icon = std::exchange(iconToShow, nullptr)) {
+        QTimer::singleShot(0, this, [icon] { QApplication::setWindowIcon(ToQIcon(icon)); });
+    }
+}
+
 void HostWindow::ShowIfHidden() {
     if (!isVisible()) {
         FitScreen();
@@ -191,10 +198,6 @@ void HostWindow::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), letterboxColor);
     painter.fillRect(ExactPlace({0, 0, screenWidth, screenHeight}), Qt::white);
-    // Behind the first frame: nobody should wait for the game because of its icon.
-    if (HICON icon = std::exchange(iconToShow, nullptr)) {
-        QTimer::singleShot(0, this, [this, icon] { setWindowIcon(ToQIcon(icon)); });
-    }
 }
 
 // The window closes when the program destroys it, after everything is saved.

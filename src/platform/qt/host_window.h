@@ -30,6 +30,8 @@ public:
     }
 
     void SetLook(const std::u16string& title, HICON icon);
+    // Behind the first frame: nobody should wait for the game because of its icon.
+    void ShowIcon();
     void ShowIfHidden();
     void ComeForward();
     void PlaceWidgets();
