@@ -255,21 +255,6 @@ TEST_F(Commands, CheckMarksFollowTheSettingsOfAnOpenedPuzzle) {
     expectMarks();
 }
 
-TEST_F(Commands, EveryWayOutSavesTheState) {
-    using WayOut = std::function<void(Handheld&)>;
-    for (const WayOut& leave :
-         {WayOut([](Handheld& open) { ChooseFromBar(open, mainMenu, {"Exit"}); }),
-          WayOut([](Handheld& open) { open.Press(Qt::Key_Q, Qt::ControlModifier); }),
-          WayOut([](Handheld& open) { open.Press(Qt::Key_Down, Qt::ControlModifier); })}) {
-        std::filesystem::remove(home.stateFile());
-        leave(*handheld);
-        EXPECT_FALSE(handheld->Running());
-        EXPECT_EQ(ReadBytes(home.stateFile()).size(), 4096u);
-        handheld.reset();
-        handheld = std::make_unique<Handheld>(home);
-    }
-}
-
 // Faults: the menu acts on the cell selected before, the hold turns the direction.
 TEST_F(Commands, ContextMenuActsOnTheCellJustHeld) {
     for (MagnificationFlags size : sizes) {
@@ -350,18 +335,6 @@ TEST_F(Commands, DisabledItemsAndButtonsCannotBeChosen) {
     EXPECT_FALSE(handheld->PressButton("About Quadrel"));
     EXPECT_TRUE(handheld->Running());
     EXPECT_EQ(handheld->Client(), before);
-}
-
-// Built once: opening a popup again makes nothing anew.
-TEST_F(Commands, PopupsAreBuiltOnce) {
-    for (const char* button : {mainMenu, hintMenu, sizeMenu}) {
-        const ShownMenu first = LookAtMenu(*handheld, button);
-        const auto children = first.popup->findChildren<QObject*>();
-        const ShownMenu second = LookAtMenu(*handheld, button);
-        EXPECT_EQ(first.popup, second.popup);
-        EXPECT_EQ(second.popup->findChildren<QObject*>(), children);
-        EXPECT_EQ(first.items, second.items);
-    }
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "platform/qt/host_window.h"
 #include "platform/windows.h"
 #include "storage/paths.h"
+#include "support/menus.h"
 #include "support/played_board.h"
 
 namespace {
@@ -230,6 +231,7 @@ TEST_F(Session, EveryWayOfEndingWritesTheState) {
     const std::string expected = Record(firstPath, 6, "B" + emptyGrid.substr(1), "0", "0", "0");
     const std::vector<void (*)(Handheld&)> endings = {
         [](Handheld& running) { running.Close(); },
+        [](Handheld& running) { ChooseFromBar(running, "Main Menu", {"Exit"}); },
         [](Handheld& running) { running.Press(Qt::Key_Q, Qt::ControlModifier); },
         [](Handheld& running) { running.Press(Qt::Key_Down, Qt::ControlModifier); },
         [](Handheld& running) {

@@ -481,14 +481,9 @@ TEST(WrongText, NeverCrashesTheCompiler) {
             const std::size_t position = random() % text.size();
             const char byte = static_cast<char>(random() % 256);
             switch (random() % 3) {
-                case 0:
-                    text.erase(position, 1 + random() % 30);
-                    break;
-                case 1:
-                    text.insert(position, 1, byte);
-                    break;
-                default:
-                    text[position] = byte;
+                case 0: text.erase(position, 1 + random() % 30); break;
+                case 1: text.insert(position, 1, byte); break;
+                default: text[position] = byte;
             }
         }
         PuzzleTextError error;
