@@ -40,10 +40,12 @@ TEST_F(Input, KeysHeldWithCtrlOrAltNeverType) {
         if (key != 'Q') {
             handheld->Press(key, Qt::ControlModifier);
         }
-        handheld->Press(key, Qt::AltModifier);
-        handheld->Press(key, Qt::ControlModifier | Qt::ShiftModifier);
-        handheld->Press(key, Qt::ControlModifier | Qt::AltModifier);
-        ASSERT_TRUE(handheld->Running()) << key;
+        for (const auto modifiers :
+             {Qt::KeyboardModifiers(Qt::AltModifier), Qt::ControlModifier | Qt::ShiftModifier,
+              Qt::ControlModifier | Qt::AltModifier}) {
+            handheld->Press(key, modifiers);
+            ASSERT_TRUE(handheld->Running()) << key;
+        }
     }
     EXPECT_EQ(PlayerLetters(), before);
     EXPECT_EQ(CursorCol, 0);
