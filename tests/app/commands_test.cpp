@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
-
 constexpr const char* mainMenu = "Main Menu";
 constexpr const char* hintMenu = "Display a hint";
 constexpr const char* sizeMenu = "Puzzle magnification";

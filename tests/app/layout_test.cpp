@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
-
 BoardRows SquareBoard(int side) {
     BoardRows rows(static_cast<std::size_t>(side),
                    std::string(static_cast<std::size_t>(side), 'A'));

@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
-
 constexpr COLORREF yellow = RGB(255, 255, 2);
 
 constexpr int eraseKey = '<';
