@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <csignal>
 #include <string>
@@ -87,17 +85,6 @@ TEST_F(Files, AWriteShowsOnlyWhenItIsClosed) {
     EXPECT_TRUE(CloseHandle(file));
     EXPECT_TRUE(ReadBytes(home.stateFile()) == std::string(50000, 'n'));
     EXPECT_EQ(home.Files().size(), 1u) << "a temporary file was left behind";
-}
-
-TEST_F(Files, AKilledProcessLeavesTheOldFileWhole) {
-    WriteBytes(home.stateFile(), "the old state");
-    const pid_t child = fork();
-    if (child == 0) {
-        Write(OpenToWrite(u"\\Program Files\\Quadrel\\quadrel.dat"), std::string(50000, 'n'));
-        _exit(0);
-    }
-    waitpid(child, nullptr, 0);
-    EXPECT_EQ(ReadBytes(home.stateFile()), "the old state");
 }
 
 // As on a full disk, files of this process can grow no further.
