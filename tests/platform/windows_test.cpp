@@ -7,7 +7,6 @@
 #include <QtGui/QMouseEvent>
 #include <vector>
 
-#include "app/win_main.h"
 #include "platform/drawing.h"
 #include "platform/qt/message_queue.h"
 #include "platform/qt/window.h"
@@ -143,13 +142,6 @@ TEST_F(Windows, PanelChangesAreSentAtOnce) {
     SIPINFO wrong;
     wrong.cbSize = 47;
     EXPECT_FALSE(SHSipInfo(SPI_GETSIPINFO, 0, &wrong, 0));
-}
-
-TEST_F(Windows, ASecondStartEndsAtOnceAndLeavesTheFirst) {
-    HWND first = MainWindow;
-    EXPECT_EQ(InitInstance(&programResources, SW_SHOW), 0);
-    EXPECT_EQ(MainWindow, first);
-    EXPECT_TRUE(handheld->Running());
 }
 
 TEST_F(Windows, MessagesForAWindowThatIsGoneAreDropped) {
