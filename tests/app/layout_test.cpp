@@ -61,28 +61,6 @@ TEST_F(Layout, FitsSmallBoardsAndFixesTheLargerCellsForEverySide) {
     }
 }
 
-// Faults: the view jumps when the panel comes or goes, a small board stays behind it.
-TEST_F(Layout, PanelKeepsTheBottomEdgeOfLargerBoardsInPlace) {
-    Play(SquareBoard(25), mediumSize);
-    for (int scroll : {0, 30, 90, 253}) {
-        ScrollX = 40;
-        ScrollY = scroll;
-        handheld->PressPanelButton();
-        EXPECT_EQ(ScrollY, scroll + 80);
-        EXPECT_EQ(ScrollY + ViewHeight, scroll + 248);
-        EXPECT_EQ(ScrollX, 40);
-        ExpectBufferOnScreen();
-        handheld->PressPanelButton();
-        EXPECT_EQ(ScrollY, scroll);
-        EXPECT_EQ(ViewHeight, 248);
-        ExpectBufferOnScreen();
-    }
-    handheld->PressPanelButton();
-    ScrollY = 50;
-    handheld->PressPanelButton();
-    EXPECT_EQ(ScrollY, 50);  // there is nothing above the board to scroll to
-}
-
 // The slow way to drag: one pen, one board, and a move that would pass a limit does not happen.
 struct PlainDrag {
     int scrollX = 0;

@@ -142,15 +142,4 @@ TEST_F(Checker, BoardsAreRightInEveryPixelAndNumberedBySize) {
     EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>(6, nothingToCheck));
 }
 
-// The keyboard stays on the screen, and the clue bar above it.
-TEST_F(Checker, LeavesTheKeyboardAlone) {
-    Play(lopsidedBoard, largeSize);
-    EXPECT_TRUE(handheld->PressButton("Display Keyboard"));
-    PlayerGrid[0] = 'Z';
-    const QImage below = BelowBoard();
-    Check();
-    EXPECT_EQ(BelowBoard(), below);
-    ExpectBufferOnScreen();
-}
-
 }  // namespace

@@ -59,21 +59,6 @@ TEST_F(ClueBar, ShowsTheSelectedWordsNumberDirectionClueAndLength) {
     EXPECT_EQ(Bar(248), BarWith(u"10 a: Letters in a row (7)", 20));
 }
 
-TEST_F(ClueBar, WritesLongNumbersAndLengthsInFull) {
-    BoardRows rows(19, std::string(19, 'A'));
-    rows[18][17] = '.';
-    Play(rows, smallSize);
-    Cells[18 * 19].clueNumber = 137;
-    for (WordRecord& word : AcrossList) {
-        if (word.clueIndex == Cells[18 * 19].acrossClue) {
-            word.clueNumber = 137;
-        }
-    }
-    SelectCell(18, 0, 0);
-    PaintClueBar(MainWindow);
-    EXPECT_EQ(Bar(248), BarWith(u"137 a:  (17)", 20));
-}
-
 TEST_F(ClueBar, ClearsWhenTheSelectedCellHasNoWord) {
     Play(lopsidedBoard, smallSize);
     BackgroundColor = RGB(200, 220, 255);

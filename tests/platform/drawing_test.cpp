@@ -50,14 +50,6 @@ TEST_F(Drawing, RectanglesLeaveOutRightAndBottom) {
     }
 }
 
-TEST_F(Drawing, ShapesBeyondTheBitmapAreCut) {
-    Canvas canvas(5, 4);
-    canvas.UsePen(red);
-    canvas.UseBrush(green);
-    Rectangle(canvas.context, -3, -3, 3, 100);
-    ExpectPixels(canvas, [](int x, int) { return x < 2 ? green : x == 2 ? red : white; });
-}
-
 TEST_F(Drawing, LinesLeaveOutTheirLastPointFromEitherEnd) {
     struct Line {
         POINT from;

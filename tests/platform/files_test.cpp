@@ -125,16 +125,6 @@ TEST_F(Files, AFullDiskKeepsTheOldFileAndSaysSo) {
     }
 }
 
-TEST_F(Files, FoldersAndDeletionsAnswerHonestly) {
-    EXPECT_TRUE(CreateDirectoryW(u"\\My Documents\\Quadrel Puzzles", nullptr));
-    EXPECT_FALSE(CreateDirectoryW(u"\\My Documents\\Quadrel Puzzles", nullptr));
-    EXPECT_FALSE(DeleteFileW(u"\\My Documents\\Quadrel Puzzles"));
-    EXPECT_FALSE(DeleteFileW(u"\\My Documents\\missing.dat"));
-    WriteBytes(home.documents() / "a.dat", "x");
-    EXPECT_TRUE(DeleteFileW(u"\\My Documents\\a.dat"));
-    EXPECT_FALSE(std::filesystem::exists(home.documents() / "a.dat"));
-}
-
 TEST_F(Files, SearchesFindTheFirstUsableName) {
     WIN32_FIND_DATAW found;
     EXPECT_EQ(FindFirstFileW(u"\\My Documents\\*.puz", &found), nullptr);
