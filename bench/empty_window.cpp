@@ -1,5 +1,5 @@
 // The least that a program of this toolkit can do: show an empty window and end after its first
-// frame. start_bench measures it beside the game.
+// frame. start_time measures it beside the game.
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>

@@ -2,15 +2,10 @@
 // window.
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
 #include <cstdlib>
 
+#include "platform/qt/bring_up.h"
 #include "platform/qt/client_view.h"
-#include "platform/qt/endings.h"
-#include "platform/qt/first_start.h"
-#include "platform/qt/font_warm_up.h"
-#include "platform/resources.h"
-#include "platform/windows.h"
 
 namespace {
 
@@ -28,18 +23,8 @@ public:
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    WarmUpFonts();
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::Round);
-    QApplication application(argumentCount, arguments);
-    WarmUpFontDatabase();
-    QApplication::setQuitOnLastWindowClosed(false);
+    const auto handheld = BringHandheldUp(argumentCount, arguments);
     FrameWatcher watcher;
-    application.installEventFilter(&watcher);
-    WatchForEndings();
-    PrepareFolders();
-    WCHAR commandLine[] = u"";
-    const int exitCode = WinMain(&programResources, nullptr, commandLine, SW_SHOW);
-    AwaitFonts();
-    return exitCode;
+    handheld->installEventFilter(&watcher);
+    return RunProgram();
 }

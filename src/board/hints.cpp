@@ -42,28 +42,35 @@ void DrawNumberOfSelectedCell(HDC context) {
     DrawCellNumberInBox(context, CursorRow, CursorCol, box);
 }
 
+// Runs both for the cells of the hint: the letters in the solution's colour, then the numbers over
+// them in black.
+template <typename DrawLetters, typename DrawNumbers>
+void DrawSolution(HDC context, const DrawLetters& drawLetters, const DrawNumbers& drawNumbers) {
+    SetBkMode(context, TRANSPARENT);
+    const COLORREF previous = SetTextColor(context, SolutionColor);
+    drawLetters();
+    SetTextColor(context, RGB(0, 0, 0));
+    drawNumbers();
+    SetTextColor(context, previous);
+}
+
 void PaintLetterSolution(HWND window) {
     const PaintBracket bracket(window);
     HDC context = OffscreenBuffer.context;
     FillSelectedCell(context);
-    SetBkMode(context, TRANSPARENT);
-    const COLORREF previous = SetTextColor(context, SolutionColor);
-    DrawSolutionLetter(context, CursorRow, CursorCol);
-    SetTextColor(context, RGB(0, 0, 0));
-    DrawNumberOfSelectedCell(context);
-    SetTextColor(context, previous);
+    DrawSolution(
+        context, [context] { DrawSolutionLetter(context, CursorRow, CursorCol); },
+        [context] { DrawNumberOfSelectedCell(context); });
 }
 
 void PaintWordSolution(HWND window) {
     const PaintBracket bracket(window);
     HDC context = OffscreenBuffer.context;
     FillWordCells(context);
-    SetBkMode(context, TRANSPARENT);
-    const COLORREF previous = SetTextColor(context, SolutionColor);
-    ForEachCellOfWord([context](int row, int col) { DrawSolutionLetter(context, row, col); });
-    SetTextColor(context, RGB(0, 0, 0));
-    ForEachCellOfWord([context](int row, int col) { DrawCellNumber(context, row, col); });
-    SetTextColor(context, previous);
+    const auto drawLetter = [context](int row, int col) { DrawSolutionLetter(context, row, col); };
+    const auto drawNumber = [context](int row, int col) { DrawCellNumber(context, row, col); };
+    DrawSolution(
+        context, [&] { ForEachCellOfWord(drawLetter); }, [&] { ForEachCellOfWord(drawNumber); });
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QMenu>
 #include <algorithm>
@@ -10,13 +9,10 @@
 
 #include "board/board_picture.h"
 #include "platform/dialogs.h"
-#include "platform/qt/host_window.h"
 #include "storage/paths.h"
 #include "support/menus.h"
 
 namespace {
-
-constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
 
 constexpr const char* mainMenu = "Main Menu";
 constexpr const char* hintMenu = "Display a hint";
@@ -141,9 +137,6 @@ TEST_F(Commands, SizesStartAtTheTopLeftCornerWithoutAHighlight) {
             EXPECT_EQ(std::pair(ScrollX, ScrollY), std::pair(0, 0));
             ExpectPicture(rows, false);
             EXPECT_EQ(handheld->Client().copy(0, 0, 240, 248), BufferImage().copy(0, 0, 240, 248));
-            for (const auto& [other, size] : cells) {
-                EXPECT_EQ(IsChecked(sizeMenu, other), size == cellSize) << text << other;
-            }
         }
     }
 }
@@ -179,19 +172,6 @@ TEST_F(Commands, DirectionButtonTurnsAndRepaints) {
         EXPECT_EQ(Direction, expected);
         ExpectFullRepaint();
     }
-}
-
-TEST_F(Commands, FullRepaintsKeepTheKeyboard) {
-    PlaySpoilt(smallSize);
-    EXPECT_TRUE(handheld->PressButton("Display Keyboard"));
-    const QImage keyboard = handheld->Client().copy(0, 225, 240, 43);
-    for (const ItemPath& path : {ItemPath{"Fill", "Word"}, ItemPath{"Toggle", "Numbers"}}) {
-        Spoil();
-        Choose(path);
-        EXPECT_EQ(handheld->Client().copy(0, 225, 240, 43), keyboard);
-        ExpectFullRepaint();
-    }
-    ShowNumbers = 0;
 }
 
 TEST_F(Commands, PuzzleInfoShowsTheTextsOfTheFile) {
@@ -255,21 +235,6 @@ TEST_F(Commands, CheckMarksFollowTheSettingsOfAnOpenedPuzzle) {
     handheld = std::make_unique<Handheld>(home);
     EXPECT_EQ(std::tuple(AutoSkip, ShowNumbers, Magnification.Medium), std::tuple(1, 0, 1));
     expectMarks();
-}
-
-TEST_F(Commands, EveryWayOutSavesTheState) {
-    using WayOut = std::function<void(Handheld&)>;
-    for (const WayOut& leave :
-         {WayOut([](Handheld& open) { ChooseFromBar(open, mainMenu, {"Exit"}); }),
-          WayOut([](Handheld& open) { open.Press(Qt::Key_Q, Qt::ControlModifier); }),
-          WayOut([](Handheld& open) { open.Press(Qt::Key_Down, Qt::ControlModifier); })}) {
-        std::filesystem::remove(home.stateFile());
-        leave(*handheld);
-        EXPECT_FALSE(handheld->Running());
-        EXPECT_EQ(ReadBytes(home.stateFile()).size(), 4096u);
-        handheld.reset();
-        handheld = std::make_unique<Handheld>(home);
-    }
 }
 
 // Faults: the menu acts on the cell selected before, the hold turns the direction.
@@ -350,99 +315,6 @@ TEST_F(Commands, DisabledItemsAndButtonsCannotBeChosen) {
     EXPECT_EQ(disabled, (QStringList{"Puzzles/Download"}));
     EXPECT_TRUE(handheld->Running());
     EXPECT_EQ(handheld->Client(), before);
-}
-
-// Built once: opening a popup again makes nothing anew.
-TEST_F(Commands, PopupsAreBuiltOnce) {
-    for (const char* button : {mainMenu, hintMenu, sizeMenu}) {
-        const ShownMenu first = LookAtMenu(*handheld, button);
-        const auto children = first.popup->findChildren<QObject*>();
-        const ShownMenu second = LookAtMenu(*handheld, button);
-        EXPECT_EQ(first.popup, second.popup);
-        EXPECT_EQ(second.popup->findChildren<QObject*>(), children);
-        EXPECT_EQ(first.items, second.items);
-    }
-}
-
-// The menu bar without a stylus.
-class MenuBarKeys : public Commands {
-protected:
-    // The headless screen does not see that a window which was hidden is active again; another
-    // one that comes and goes makes it look.
-    MenuBarKeys() {
-        QWidget other;
-        other.show();
-        handheld->Settle();
-        other.hide();
-        Host().activateWindow();
-        handheld->Settle();
-    }
-    static std::string FocusedButton() {
-        QWidget* focus = Host().focusWidget();
-        return focus == nullptr ? "" : focus->toolTip().toStdString();
-    }
-    void Key(int key) {
-        PressFocusedKey(*handheld, key);
-    }
-};
-
-TEST_F(MenuBarKeys, F10AndAltGoToTheBarAndBack) {
-    Play(lopsidedBoard, smallSize);
-    for (int key : {Qt::Key_F10, Qt::Key_Alt}) {
-        for (int back : {int{Qt::Key_Escape}, key}) {
-            Key(key);
-            EXPECT_EQ(FocusedButton(), mainMenu);
-            Key(Qt::Key_K);
-            Key(back);
-            EXPECT_EQ(FocusedButton(), "");
-            EXPECT_EQ(PlayerLetters().find('K'), std::string::npos) << "typed into the bar";
-        }
-    }
-    Key(Qt::Key_K);
-    EXPECT_EQ(PlayerLetters()[0], 'K');
-}
-
-// Disabled buttons are skipped; the panel's is the last one.
-TEST_F(MenuBarKeys, ArrowsGoAroundTheButtonsThatCanBePressed) {
-    const std::vector<std::string> expected = {mainMenu,
-                                               "Checks the puzzle",
-                                               hintMenu,
-                                               "Select a new puzzle",
-                                               "Open the clue list",
-                                               sizeMenu,
-                                               "Toggle clues across / down",
-                                               "Display Keyboard",
-                                               "About Quadrel",
-                                               "Keyboard"};
-    Key(Qt::Key_F10);
-    for (const std::string& button : expected) {
-        EXPECT_EQ(FocusedButton(), button);
-        Key(Qt::Key_Right);
-    }
-    EXPECT_EQ(FocusedButton(), mainMenu);
-    for (auto button = expected.rbegin(); button != expected.rend(); ++button) {
-        Key(Qt::Key_Left);
-        EXPECT_EQ(FocusedButton(), *button);
-    }
-}
-
-TEST_F(MenuBarKeys, EnterPressesTheButtonAndGivesTheKeysBack) {
-    Play(lopsidedBoard, smallSize);
-    Key(Qt::Key_F10);
-    for (int step = 0; step < 6; ++step) {
-        Key(Qt::Key_Right);
-    }
-    Key(Qt::Key_Return);
-    EXPECT_EQ(Direction, 1);
-    EXPECT_EQ(FocusedButton(), "");
-    TakeOpenedMenus();
-    Key(Qt::Key_F10);
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Down);
-    EXPECT_EQ(TakeOpenedMenus(), 1) << "an arrow opens the popup";
-    Key(Qt::Key_K);
-    EXPECT_EQ(PlayerLetters()[0], 'K');
 }
 
 }  // namespace

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
-
 BoardRows SquareBoard(int side) {
     BoardRows rows(static_cast<std::size_t>(side),
                    std::string(static_cast<std::size_t>(side), 'A'));
@@ -63,70 +61,6 @@ TEST_F(Layout, FitsSmallBoardsAndFixesTheLargerCellsForEverySide) {
     }
 }
 
-TEST_F(Layout, OfTheUsualSizesIsAsThePlayerKnowsIt) {
-    Play(SquareBoard(15), smallSize);
-    EXPECT_EQ(CellSize, 16);
-    EXPECT_EQ(BoardLeft, 0);
-    Play(SquareBoard(21), smallSize);
-    EXPECT_EQ(CellSize, 11);
-    EXPECT_EQ(BoardLeft, 4);
-    Play(SquareBoard(15), mediumSize);
-    EXPECT_EQ(BufferWidth, 301);
-    EXPECT_EQ(BufferHeight, 301);
-    EXPECT_EQ(BoardLeft, 0);
-    Play(SquareBoard(10), largeSize);
-    EXPECT_EQ(BufferWidth, 240);
-    EXPECT_EQ(BufferHeight, 268);
-}
-
-// What is left of a board lies in the window, seen through the view: the copy's source point.
-TEST_F(Layout, ScreenShowsTheScrolledPartOfTheBuffer) {
-    BoardRows rows = SquareBoard(20);
-    rows[11][9] = '.';
-    Play(rows, mediumSize);
-    ScrollX = 37;
-    ScrollY = 101;
-    CopyViewToScreen(MainWindow);
-    EXPECT_EQ(handheld->Client().copy(0, 0, 240, 248), BufferImage().copy(37, 101, 240, 248));
-}
-
-// Faults: the view jumps when the panel comes or goes, a small board stays behind it.
-TEST_F(Layout, PanelKeepsTheBottomEdgeOfLargerBoardsInPlace) {
-    Play(SquareBoard(25), mediumSize);
-    for (int scroll : {0, 30, 90, 253}) {
-        ScrollX = 40;
-        ScrollY = scroll;
-        handheld->PressPanelButton();
-        EXPECT_EQ(ScrollY, scroll + 80);
-        EXPECT_EQ(ScrollY + ViewHeight, scroll + 248);
-        EXPECT_EQ(ScrollX, 40);
-        EXPECT_EQ(handheld->Client().copy(0, 0, 240, 168),
-                  BufferImage().copy(40, scroll + 80, 240, 168));
-        handheld->PressPanelButton();
-        EXPECT_EQ(ScrollY, scroll);
-        EXPECT_EQ(ViewHeight, 248);
-        EXPECT_EQ(handheld->Client().copy(0, 0, 240, 248),
-                  BufferImage().copy(40, scroll, 240, 248));
-    }
-    handheld->PressPanelButton();
-    ScrollY = 50;
-    handheld->PressPanelButton();
-    EXPECT_EQ(ScrollY, 50);  // there is nothing above the board to scroll to
-}
-
-TEST_F(Layout, PanelHidesTheOnScreenKeyboardAndRefitsSmallBoards) {
-    Play(SquareBoard(15), smallSize);
-    KeyboardVisible = 1;
-    SelectCell(2, 3, 1);
-    handheld->PressPanelButton();
-    EXPECT_EQ(KeyboardVisible, 0);
-    EXPECT_EQ(BottomReserve, 20);
-    EXPECT_EQ(CellSize, 11);
-    EXPECT_EQ(ColorAt(BufferImage(), BoardLeft + 3 * 11 + 5, 2 * 11 + 5), RGB(255, 200, 125));
-    handheld->PressPanelButton();
-    EXPECT_EQ(CellSize, 16);
-}
-
 // The slow way to drag: one pen, one board, and a move that would pass a limit does not happen.
 struct PlainDrag {
     int scrollX = 0;
@@ -168,8 +102,7 @@ protected:
             ASSERT_EQ(ScrollX, plain.scrollX) << "move " << move;
             ASSERT_EQ(ScrollY, plain.scrollY) << "move " << move;
         }
-        ASSERT_EQ(handheld->Client().copy(0, 0, ViewWidth, ViewHeight),
-                  BufferImage().copy(ScrollX, ScrollY, ViewWidth, ViewHeight));
+        ExpectBufferOnScreen();
         // Outside of the view, so that the release selects nothing.
         handheld->LiftAt({120, 290});
     }

@@ -25,23 +25,12 @@ int NumberFromEnvironment(const char* name, int otherwise) {
     return text == nullptr ? otherwise : std::atoi(text);
 }
 
-BoardRows SprinkledBoard(std::mt19937& random, int side, int blackPercent) {
-    BoardRows rows(static_cast<std::size_t>(side), std::string(static_cast<std::size_t>(side), 0));
-    for (std::string& row : rows) {
-        for (char& cell : row) {
-            const bool black = static_cast<int>(random() % 100) < blackPercent;
-            cell = black ? '.' : static_cast<char>('A' + random() % 26);
-        }
-    }
-    return rows;
-}
-
 // The selection of a puzzle that starts with a black square belongs to no word.
 std::vector<BoardRows> Puzzles(std::mt19937& random) {
     const BoardRows small = {"ABC.D", "EFGHI", ".JKLM", "NO.PQ", "RSTU."};
     const BoardRows blackCorner = {".ABC", "DEFG", "HI.J", "KLM."};
-    return {small,       SprinkledBoard(random, 15, 17), SprinkledBoard(random, 21, 15),
-            blackCorner, SprinkledBoard(random, 40, 12), {"AB", "CD"}};
+    return {small,       RandomBoard(random, 15, 15, 17), RandomBoard(random, 21, 21, 15),
+            blackCorner, RandomBoard(random, 40, 40, 12), {"AB", "CD"}};
 }
 
 class Monkey {
@@ -59,26 +48,19 @@ public:
 
     // Says what it did.
     std::string Step() {
-        const int what = Below(1000);
-        if (what < 250) {
-            return Tap();
+        using Action = std::string (Monkey::*)();
+        static constexpr std::pair<int, Action> actions[] = {
+            {250, &Monkey::Tap},      {150, &Monkey::Drag},           {250, &Monkey::PressKey},
+            {100, &Monkey::HoldCell}, {150, &Monkey::ChooseFromMenu}, {90, &Monkey::PressBarButton},
+            {9, &Monkey::Resize},     {1, &Monkey::HoldForLong}};
+        int left = Below(1000);
+        for (const auto& [chances, action] : actions) {
+            left -= chances;
+            if (left < 0) {
+                return (this->*action)();
+            }
         }
-        if (what < 400) {
-            return Drag();
-        }
-        if (what < 650) {
-            return PressKey();
-        }
-        if (what < 750) {
-            return HoldCell();
-        }
-        if (what < 900) {
-            return ChooseFromMenu();
-        }
-        if (what < 990) {
-            return PressBarButton();
-        }
-        return what < 999 ? Resize() : HoldForLong();
+        return "";
     }
 
     void ExpectSoundState() {

@@ -7,6 +7,7 @@
 #include "platform/qt/host_window.h"
 #include "platform/windows.h"
 #include "storage/paths.h"
+#include "support/menus.h"
 #include "support/played_board.h"
 
 namespace {
@@ -101,18 +102,9 @@ void PlayAlong(Handheld& handheld) {
     handheld.Type("1 ");                    // no letters
 }
 
-TEST_F(Session, LeavesItsGridAndItsStateFile) {
+TEST_F(Session, LeavesItsStateAndGoesOnWhereItStopped) {
     PlayAlong(Start());
-    EXPECT_EQ(PlayerLetters(), playedGrid);
-    EXPECT_EQ(CursorRow, 5);
-    EXPECT_EQ(CursorCol, 5);
-    EXPECT_EQ(Direction, 0);
-    End();
-    ExpectSameBytes(State(), Record(firstPath, 6, playedGrid, "0", "0", "0"));
-}
-
-TEST_F(Session, GoesOnWhereItStopped) {
-    PlayAlong(Start());
+    EXPECT_EQ(std::tuple(CursorRow, CursorCol, Direction), std::tuple(5, 5, 0));
     Magnification = mediumSize;
     AutoSkip = 1;
     ShowNumbers = 1;
@@ -162,15 +154,6 @@ TEST_F(Session, DropsLettersOfAPuzzleThatIsGone) {
     Start();
     EXPECT_EQ(PlayerLetters(), emptyGrid);
     EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\second.puz");
-}
-
-// The first in the order of names, and nothing that is no puzzle file by its name.
-TEST_F(Session, StartsWithTheFirstPuzzleOfTheDocuments) {
-    WriteBytes(home.documents() / "a.txt", "no puzzle");
-    WriteBytes(home.documents() / "b.PUZ", PuzzleBytes({"ABC", "D.E", "FGH"}));
-    Start();
-    EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\b.PUZ");
-    EXPECT_EQ(PuzzleWidth, 3);
 }
 
 TEST_F(Session, WithoutAnyPuzzleSaysSoAndTakesEverythingCalmly) {
@@ -230,6 +213,7 @@ TEST_F(Session, EveryWayOfEndingWritesTheState) {
     const std::string expected = Record(firstPath, 6, "B" + emptyGrid.substr(1), "0", "0", "0");
     const std::vector<void (*)(Handheld&)> endings = {
         [](Handheld& running) { running.Close(); },
+        [](Handheld& running) { ChooseFromBar(running, "Main Menu", {"Exit"}); },
         [](Handheld& running) { running.Press(Qt::Key_Q, Qt::ControlModifier); },
         [](Handheld& running) { running.Press(Qt::Key_Down, Qt::ControlModifier); },
         [](Handheld& running) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
 #include <vector>
 
 #include "app/view.h"
@@ -101,4 +103,51 @@ inline std::vector<COLORREF> InkOfCell(const BoardRows& rows, int row, int col, 
         }
     }
     return ink;
+}
+
+template <typename Test>
+bool Any(const std::vector<COLORREF>& colors, const Test& test) {
+    return std::any_of(colors.begin(), colors.end(), test);
+}
+
+// A pixel in the middle of a stroke, on any of the fills.
+inline bool IsPureRed(COLORREF color) {
+    return color == RGB(255, 0, 0);
+}
+
+// Thin strokes are not quite black; red and the highlight's colours are bright in one part.
+inline bool IsDark(COLORREF color) {
+    return std::max({GetRValue(color), GetGValue(color), GetBValue(color)}) < 160;
+}
+
+inline std::vector<COLORREF> AllPixels(const QImage& image) {
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            pixels.push_back(ColorAt(image, x, y));
+        }
+    }
+    return pixels;
+}
+
+// Where a number belongs: a word starts there, and numbers are shown.
+inline bool HasNumber(int row, int col) {
+    const auto words = WordsOf(lopsidedBoard);
+    return ShowNumbers == 1 && Magnification.Small == 0 &&
+           std::any_of(words.begin(), words.end(),
+                       [=](const PlainWord& word) { return word.row == row && word.col == col; });
+}
+
+inline bool HasPlayersLetter(int row, int col) {
+    const char cell = PlayerGrid[row * PuzzleWidth + col];
+    return cell != '-' && cell != '.';
+}
+
+template <typename Action>
+void ForEachCell(const Action& action) {
+    for (int cell = 0; cell < PuzzleWidth * PuzzleHeight; ++cell) {
+        SCOPED_TRACE("row " + std::to_string(cell / PuzzleWidth) + ", column " +
+                     std::to_string(cell % PuzzleWidth));
+        action(cell / PuzzleWidth, cell % PuzzleWidth);
+    }
 }

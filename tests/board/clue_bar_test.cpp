@@ -59,21 +59,6 @@ TEST_F(ClueBar, ShowsTheSelectedWordsNumberDirectionClueAndLength) {
     EXPECT_EQ(Bar(248), BarWith(u"10 a: Letters in a row (7)", 20));
 }
 
-TEST_F(ClueBar, WritesLongNumbersAndLengthsInFull) {
-    BoardRows rows(19, std::string(19, 'A'));
-    rows[18][17] = '.';
-    Play(rows, smallSize);
-    Cells[18 * 19].clueNumber = 137;
-    for (WordRecord& word : AcrossList) {
-        if (word.clueIndex == Cells[18 * 19].acrossClue) {
-            word.clueNumber = 137;
-        }
-    }
-    SelectCell(18, 0, 0);
-    PaintClueBar(MainWindow);
-    EXPECT_EQ(Bar(248), BarWith(u"137 a:  (17)", 20));
-}
-
 TEST_F(ClueBar, ClearsWhenTheSelectedCellHasNoWord) {
     Play(lopsidedBoard, smallSize);
     BackgroundColor = RGB(200, 220, 255);
@@ -113,15 +98,15 @@ TEST_F(ClueBar, StandsAboveTheOnScreenKeyboard) {
 TEST_F(ClueBar, CutsLongCluesAtTheBar) {
     Play(lopsidedBoard, smallSize);
     const QImage above = handheld->Client().copy(0, 0, 240, 248);
-    const std::string clue(400, 'W');
     std::string sentence;
     for (int i = 0; i < 60; ++i) {
         sentence += "words ";
     }
-    for (const std::string& text : {clue, sentence}) {
+    std::vector<QImage> bars;
+    for (const std::string& text : {std::string(60, 'W'), std::string(15000, 'W'), sentence}) {
         ClueTable[static_cast<std::size_t>(Cells[0].acrossClue)] = text.c_str();
         PaintClueBar(MainWindow);
-        const QImage bar = Bar(248);
+        const QImage bar = bars.emplace_back(Bar(248));
         EXPECT_NE(bar, BarWith(u"", 20));
         EXPECT_NE(bar.copy(0, 11, 240, 9), BarWith(u"", 9));
         EXPECT_EQ(handheld->Client().copy(0, 0, 240, 248), above);
@@ -130,6 +115,7 @@ TEST_F(ClueBar, CutsLongCluesAtTheBar) {
             EXPECT_EQ(ColorAt(bar, 239, y), RGB(255, 255, 255));
         }
     }
+    EXPECT_EQ(bars[0], bars[1]) << "what cannot be seen changes nothing";
     ClueTable[static_cast<std::size_t>(Cells[0].acrossClue)] = "";
 }
 

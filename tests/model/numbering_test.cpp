@@ -67,18 +67,6 @@ void ExpectPlainNumbering(const BoardRows& rows) {
 
 }  // namespace
 
-TEST(Numbering, RingOfEightCells) {
-    PlaceBoard({"ABC", "D.E", "FGH"});
-    EXPECT_EQ(Listed(AcrossList), (std::vector<Record>{{0, 1, 3}, {3, 3, 3}}));
-    EXPECT_EQ(Listed(DownList), (std::vector<Record>{{1, 1, 3}, {2, 2, 3}}));
-    const std::vector<Record> cells = {{0, 1, 1},   {0, -1, -1},  {0, 2, 2},
-                                       {-1, 1, -1}, {-1, -1, -1}, {-1, 2, -1},
-                                       {3, 1, 3},   {3, -1, -1},  {3, 2, -1}};
-    for (int i = 0; i < 9; ++i) {
-        EXPECT_EQ(CellAt(i), cells[static_cast<std::size_t>(i)]) << "cell " << i;
-    }
-}
-
 TEST(Numbering, AgreesWithCuttingRowsAndColumns) {
     for (unsigned seed = 0; seed < 400; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));

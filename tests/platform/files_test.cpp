@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <csignal>
 #include <string>
@@ -89,17 +87,6 @@ TEST_F(Files, AWriteShowsOnlyWhenItIsClosed) {
     EXPECT_EQ(home.Files().size(), 1u) << "a temporary file was left behind";
 }
 
-TEST_F(Files, AKilledProcessLeavesTheOldFileWhole) {
-    WriteBytes(home.stateFile(), "the old state");
-    const pid_t child = fork();
-    if (child == 0) {
-        Write(OpenToWrite(u"\\Program Files\\Quadrel\\quadrel.dat"), std::string(50000, 'n'));
-        _exit(0);
-    }
-    waitpid(child, nullptr, 0);
-    EXPECT_EQ(ReadBytes(home.stateFile()), "the old state");
-}
-
 // As on a full disk, files of this process can grow no further.
 class NoSpace {
 public:
@@ -136,16 +123,6 @@ TEST_F(Files, AFullDiskKeepsTheOldFileAndSaysSo) {
         EXPECT_TRUE(kept == "the old state") << "a torn file of " << kept.size() << " bytes";
         EXPECT_EQ(home.Files().size(), 1u) << "a temporary file was left behind";
     }
-}
-
-TEST_F(Files, FoldersAndDeletionsAnswerHonestly) {
-    EXPECT_TRUE(CreateDirectoryW(u"\\My Documents\\Quadrel Puzzles", nullptr));
-    EXPECT_FALSE(CreateDirectoryW(u"\\My Documents\\Quadrel Puzzles", nullptr));
-    EXPECT_FALSE(DeleteFileW(u"\\My Documents\\Quadrel Puzzles"));
-    EXPECT_FALSE(DeleteFileW(u"\\My Documents\\missing.dat"));
-    WriteBytes(home.documents() / "a.dat", "x");
-    EXPECT_TRUE(DeleteFileW(u"\\My Documents\\a.dat"));
-    EXPECT_FALSE(std::filesystem::exists(home.documents() / "a.dat"));
 }
 
 TEST_F(Files, SearchesFindTheFirstUsableName) {

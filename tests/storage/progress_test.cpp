@@ -87,27 +87,6 @@ std::string SmallRecord() {
 
 }  // namespace
 
-TEST_F(Progress, RecordByteForByte) {
-    std::string expected(4096, '\0');
-    const std::pair<std::size_t, std::string> fields[] = {{0, "\\My Documents\\a.puz"},
-                                                          {20, "15"},
-                                                          {23, "15"},
-                                                          {26, std::string(225, 'P')},
-                                                          {252, "0"},
-                                                          {254, "0"},
-                                                          {256, "1"},
-                                                          {258, "255"},
-                                                          {262, "255"},
-                                                          {266, "255"},
-                                                          {270, "0"},
-                                                          {274, "0"},
-                                                          {278, "0"}};
-    for (const auto& [offset, text] : fields) {
-        expected.replace(offset, text.size(), text);
-    }
-    EXPECT_TRUE(Save() == expected);
-}
-
 TEST_F(Progress, RestoresEveryField) {
     ASSERT_TRUE(Load(SmallRecord()));
     EXPECT_EQ(CurrentPuzzlePath, std::u16string(u"p"));

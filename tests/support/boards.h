@@ -45,8 +45,7 @@ inline RawPuzzle PuzzleOfBoard(const BoardRows& rows, std::vector<std::string> t
 
 // Rows of different letters, so that a cell taken from the wrong place shows; neither symmetric nor
 // square, so that swapped rows and columns do.
-inline BoardRows RandomBoard(std::mt19937& random, int width, int height) {
-    const auto blackPercent = random() % 50;
+inline BoardRows RandomBoard(std::mt19937& random, int width, int height, unsigned blackPercent) {
     BoardRows rows(static_cast<std::size_t>(height),
                    std::string(static_cast<std::size_t>(width), '.'));
     for (std::string& row : rows) {
@@ -55,6 +54,11 @@ inline BoardRows RandomBoard(std::mt19937& random, int width, int height) {
         }
     }
     return rows;
+}
+
+inline BoardRows RandomBoard(std::mt19937& random, int width, int height) {
+    const auto blackPercent = static_cast<unsigned>(random() % 50);
+    return RandomBoard(random, width, height, blackPercent);
 }
 
 inline BoardRows RandomBoard(std::mt19937& random) {

@@ -43,7 +43,9 @@ Value TakeNext(std::deque<Value>& planned, Value otherwise) {
 }
 
 void Answer(QMessageBox* box) {
-    shownMessages.push_back({box->text().toStdU16String(), box->windowTitle().toStdU16String()});
+    // Without the breaks that a box puts into long lines.
+    const QString text = box->text().remove(QChar(QChar::LineSeparator));
+    shownMessages.push_back({text.toStdU16String(), box->windowTitle().toStdU16String()});
     if (duringNextBox) {
         std::exchange(duringNextBox, nullptr)();
     }

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <QtWidgets/QApplication>
 #include <iostream>
 
+#include "platform/qt/bring_up.h"
 #include "support/boxes.h"
 #include "support/dialogs.h"
 
@@ -21,10 +21,7 @@ int main(int argumentCount, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(ShowWarning);
     testing::InitGoogleTest(&argumentCount, arguments);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::Round);
-    QApplication application(argumentCount, arguments);
-    QApplication::setQuitOnLastWindowClosed(false);
+    const auto handheld = BringHandheldUp(argumentCount, arguments);
     AnswerBoxes();
     WatchDialogs();
     return RUN_ALL_TESTS();

@@ -4,46 +4,40 @@
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QMenu>
-#include <functional>
 #include <utility>
 
 #include "platform/qt/host_window.h"
 #include "support/message_boxes.h"
 
-namespace {
+NextMenu::NextMenu(std::function<void(QMenu*)> planned) : use(std::move(planned)) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
-void SendKey(QWidget* widget, int key) {
+NextMenu::~NextMenu() {
+    TakeOpenedMenus();
+}
+
+bool NextMenu::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() != QEvent::Show || !use) {
+        return false;
+    }
+    if (auto* menu = qobject_cast<QMenu*>(object)) {
+        QTimer::singleShot(0, menu, [menu, now = std::exchange(use, nullptr)] { now(menu); });
+    }
+    return false;
+}
+
+void SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers) {
+    // A letter comes with its text.
+    const QString text =
+        key < 0x80 && modifiers == Qt::NoModifier ? QString(QChar(key)) : QString();
     for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, Qt::NoModifier);
+        QKeyEvent event(type, key, modifiers, text);
         QCoreApplication::sendEvent(widget, &event);
     }
 }
 
-// Does something with the next menu that opens; a menu opens inside a loop of its own, so that
-// this has to be planned before.
-class NextMenu : public QObject {
-public:
-    explicit NextMenu(std::function<void(QMenu*)> planned) : use(std::move(planned)) {
-        QCoreApplication::instance()->installEventFilter(this);
-    }
-    // What else closes menus counts them, too.
-    ~NextMenu() override {
-        TakeOpenedMenus();
-    }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() != QEvent::Show || !use) {
-            return false;
-        }
-        if (auto* menu = qobject_cast<QMenu*>(object)) {
-            QTimer::singleShot(0, menu, [menu, now = std::exchange(use, nullptr)] { now(menu); });
-        }
-        return false;
-    }
-
-private:
-    std::function<void(QMenu*)> use;
-};
+namespace {
 
 bool MoveTo(QMenu* menu, const QString& text) {
     for (qsizetype step = 0; step <= menu->actions().size(); ++step) {
@@ -109,9 +103,9 @@ ShownMenu LookAtMenu(Handheld& handheld, const QString& tooltip) {
     return shown;
 }
 
-void PressFocusedKey(Handheld& handheld, int key) {
+void PressFocusedKey(Handheld& handheld, int key, Qt::KeyboardModifiers modifiers) {
     if (QWidget* focus = Host().focusWidget()) {
-        SendKey(focus, key);
+        SendKey(focus, key, modifiers);
     }
     handheld.Settle();
 }

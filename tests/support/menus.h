@@ -1,7 +1,9 @@
 // Using the real popup menus with the arrow keys and Enter, as a person does.
 #pragma once
 
+#include <QtCore/QObject>
 #include <QtCore/QStringList>
+#include <functional>
 #include <map>
 
 #include "support/handheld.h"
@@ -30,5 +32,21 @@ struct ShownMenu {
 // Opens the popup of the menu bar's button and closes it again.
 ShownMenu LookAtMenu(Handheld& handheld, const QString& tooltip);
 
+// Does something with the next menu that opens; a menu opens inside a loop of its own, so that
+// this has to be planned before.
+class NextMenu : public QObject {
+public:
+    explicit NextMenu(std::function<void(QMenu*)> planned);
+    // What else closes menus counts them, too.
+    ~NextMenu() override;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    std::function<void(QMenu*)> use;
+};
+
+// Pressed and let go.
+void SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // A key for whatever has the focus: a button of the menu bar or the program's window.
-void PressFocusedKey(Handheld& handheld, int key);
+void PressFocusedKey(Handheld& handheld, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

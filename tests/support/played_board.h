@@ -40,6 +40,7 @@ inline const BoardRows squareBoard = {
 inline constexpr MagnificationFlags smallSize{1, 0, 0};
 inline constexpr MagnificationFlags mediumSize{0, 1, 0};
 inline constexpr MagnificationFlags largeSize{0, 0, 1};
+inline constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
 
 // Every word has the clue "Clue " and its index; files of boards with other sides are made too.
 inline std::string PuzzleBytes(const BoardRows& rows, const std::string& title = "Title") {
@@ -89,6 +90,15 @@ protected:
         Magnification = size;
         ComputeLayout(MainWindow);
         RepaintFully(MainWindow);
+    }
+
+    // The clue bar, and the keyboard when it is there.
+    QImage BelowBoard() {
+        return handheld->Client().copy(0, ViewHeight, 240, BottomReserve);
+    }
+    void ExpectBufferOnScreen() {
+        EXPECT_EQ(handheld->Client().copy(0, 0, ViewWidth, ViewHeight),
+                  BufferImage().copy(ScrollX, ScrollY, ViewWidth, ViewHeight));
     }
 
     TemporaryHome home;

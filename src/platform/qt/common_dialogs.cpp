@@ -4,7 +4,11 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
+#include <QtGui/QScreen>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStyledItemDelegate>
 
 #include "platform/dialogs.h"
 #include "platform/qt/device_paths.h"
@@ -31,6 +35,39 @@ QString NameFilter(const WCHAR* filter) {
     return QString("%1 (%2 %3)").arg(name, pattern, pattern.toUpper());
 }
 
+// A folder goes by its own name, but the home's is that of the user.
+class PlaceNames : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.data(Qt::ToolTipRole).toString() == QDir::homePath()) {
+            option->text = "Home";
+        }
+    }
+};
+
+QSize ChooserSize(const QFileDialog& dialog) {
+    const QSizeF wanted = QSizeF(300, 220) * Host().Magnification();
+    const QSizeF desktop = dialog.screen()->availableSize();
+    constexpr double most = 0.9;
+    return wanted.expandedTo(QSizeF(480, 360)).boundedTo(desktop * most).toSize();
+}
+
+// Names alone: beside the places there is no room for columns.
+void MakeReadable(QFileDialog& dialog) {
+    dialog.setViewMode(QFileDialog::List);
+    dialog.resize(ChooserSize(dialog));
+    if (auto* places = dialog.findChild<QListView*>("sidebar")) {
+        places->setItemDelegate(new PlaceNames(places));
+    }
+    if (auto* splitter = dialog.findChild<QSplitter*>("splitter")) {
+        splitter->setSizes({dialog.width() / 3, dialog.width() * 2 / 3});
+    }
+}
+
 bool Choose(const OPENFILENAMEW& request, QString& chosen) {
     QFileDialog dialog(&Host(), QString::fromUtf16(request.lpstrTitle), StartFolder(),
                        NameFilter(request.lpstrFilter));
@@ -38,6 +75,7 @@ bool Choose(const OPENFILENAMEW& request, QString& chosen) {
     dialog.setSidebarUrls({QUrl::fromLocalFile(DocumentsFolderOnHost() + "/Quadrel Puzzles"),
                            QUrl::fromLocalFile(DocumentsFolderOnHost()),
                            QUrl::fromLocalFile(QDir::homePath())});
+    MakeReadable(dialog);
     if (RunModal(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return false;
     }

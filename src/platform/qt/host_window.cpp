@@ -17,6 +17,7 @@
 #include "platform/qt/icon_object.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_bar.h"
+#include "platform/qt/menu_object.h"
 #include "platform/qt/message_queue.h"
 #include "platform/qt/soft_input_panel.h"
 #include "platform/qt/title_bar.h"
@@ -111,6 +112,12 @@ void HostWindow::EnableMenuBar(bool enabled) {
     menuBar->setEnabled(enabled);
 }
 
+void HostWindow::ShowIcon() {
+    if (HICON icon = std::exchange(iconToShow, nullptr)) {
+        QTimer::singleShot(0, this, [icon] { QApplication::setWindowIcon(ToQIcon(icon)); });
+    }
+}
+
 void HostWindow::ShowIfHidden() {
     if (!isVisible()) {
         FitScreen();
@@ -194,9 +201,7 @@ void HostWindow::ShowPanelButton(bool shown) {
 
 void HostWindow::resizeEvent(QResizeEvent*) {
     // A popup has the size and the place that it was opened with.
-    if (QWidget* popup = QApplication::activePopupWidget()) {
-        popup->close();
-    }
+    ClosePopups();
     FitScreen();
 }
 
@@ -204,10 +209,6 @@ void HostWindow::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), letterboxColor);
     painter.fillRect(ExactPlace({0, 0, screenWidth, screenHeight}), Qt::white);
-    // Behind the first frame: nobody should wait for the game because of its icon.
-    if (HICON icon = std::exchange(iconToShow, nullptr)) {
-        QTimer::singleShot(0, this, [this, icon] { setWindowIcon(ToQIcon(icon)); });
-    }
 }
 
 // The window closes when the program destroys it, after everything is saved.

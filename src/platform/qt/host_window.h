@@ -37,6 +37,8 @@ public:
     void ShowDoneButton(bool shown);
     // While a dialog is open, the menu bar takes nothing.
     void EnableMenuBar(bool enabled);
+    // Behind the first frame: nobody should wait for the game because of its icon.
+    void ShowIcon();
     void ShowIfHidden();
     void ComeForward();
     void PlaceWidgets();

@@ -1,11 +1,13 @@
 #include "platform/qt/menu_bar.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <algorithm>
 
 #include "platform/qt/art.h"
 #include "platform/qt/host_window.h"
+#include "platform/qt/key_codes.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_object.h"
 #include "platform/windows.h"
@@ -30,17 +32,23 @@ QSize PictureSize(const HostWindow& host) {
     return {side, side};
 }
 
+BarButton* Neighbour(const std::vector<BarButton*>& row, const QWidget* of, int step) {
+    const auto place = std::find(row.begin(), row.end(), of);
+    const auto count = static_cast<int>(row.size());
+    return row[static_cast<size_t>((static_cast<int>(place - row.begin()) + step + count) % count)];
+}
+
 }  // namespace
 
-BarButton::BarButton(QWidget* bar, HostWindow* parent, const ArtResource* picture)
-    : QAbstractButton(bar), host(parent), art(picture) {
+BarButton::BarButton(QWidget* bar, HostWindow* parent, const ArtResource* picture, HMENU popup)
+    : QAbstractButton(bar), host(parent), art(picture), menu(popup) {
     // A tap leaves the focus where it is; the keys of the menu bar give it to the buttons.
     setFocusPolicy(Qt::TabFocus);
 }
 
 void BarButton::keyPressEvent(QKeyEvent* event) {
     auto* bar = qobject_cast<MenuBarWidget*>(parentWidget());
-    switch (event->key()) {
+    switch (event->modifiers() & Qt::ControlModifier ? 0 : event->key()) {
         case Qt::Key_Left: bar->MoveFocus(-1); break;
         case Qt::Key_Right: bar->MoveFocus(1); break;
         case Qt::Key_Escape:
@@ -48,13 +56,28 @@ void BarButton::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Alt: host->FocusProgram(); break;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-        case Qt::Key_Space:
+        case Qt::Key_Space: bar->PressByKey(this); break;
         case Qt::Key_Up:
         case Qt::Key_Down:
-            host->FocusProgram();
-            click();
-            break;
-        default: QAbstractButton::keyPressEvent(event);
+            if (menu != nullptr) {
+                bar->PressByKey(this);
+                break;
+            }
+            [[fallthrough]];
+        default: HandToProgram(event);
+    }
+}
+
+// Whoever types on has done with the bar. A key that means nothing to the program, like a modifier
+// on its own, leaves the focus here.
+void BarButton::HandToProgram(QKeyEvent* event) {
+    if (VirtualKey(*event) == 0) {
+        event->ignore();
+        return;
+    }
+    host->FocusProgram();
+    if (QWidget* focus = host->focusWidget(); focus != this) {
+        QCoreApplication::sendEvent(focus, event);
     }
 }
 
@@ -123,29 +146,34 @@ void MenuBarWidget::RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE in
 }
 
 void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance) {
-    auto* button = new BarButton(this, host, FindArt(instance, resource.image));
+    HMENU menu = resource.popup == noPopup ? nullptr
+                                           : GetSubMenu(LoadMenuW(instance, barId), resource.popup);
+    auto* button = new BarButton(this, host, FindArt(instance, resource.image), menu);
     const QString caption = QString::fromUtf16(resource.caption);
     button->setToolTip(caption);
     button->setAccessibleName(caption);
     button->setEnabled(resource.available);
     const int command = resource.command;
-    HMENU menu = resource.popup == noPopup ? nullptr
-                                           : GetSubMenu(LoadMenuW(instance, barId), resource.popup);
     popups[command] = menu;
-    connect(button, &QAbstractButton::clicked, this, [this, button, command, menu] {
+    connect(button, &QAbstractButton::clicked, this, [this, button, command] {
         PostMessageW(owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
-        OpenPopup(button, menu);
+        OpenPopup(button);
     });
     button->show();
     buttons.push_back(button);
 }
 
 // Stands on the bar, above its button, inside the screen where it fits.
-void MenuBarWidget::OpenPopup(BarButton* button, HMENU menu) {
-    if (menu == nullptr) {
+void MenuBarWidget::OpenPopup(BarButton* button) {
+    if (button->Menu() == nullptr) {
         return;
     }
-    QMenu* popup = PopupOf(menu, owner);
+    QMenu* popup = PopupOf(button->Menu(), owner);
+    popup->installEventFilter(this);
+    for (QMenu* submenu : popup->findChildren<QMenu*>()) {
+        submenu->installEventFilter(this);
+    }
+    openButton = button;
     const QSize size = popup->sizeHint();
     const int left = std::clamp(button->x(), 0, std::max(width() - size.width(), 0));
     button->setDown(true);
@@ -153,6 +181,45 @@ void MenuBarWidget::OpenPopup(BarButton* button, HMENU menu) {
         popup, &QMenu::aboutToHide, button, [button] { button->setDown(false); },
         Qt::SingleShotConnection);
     popup->popup(mapToGlobal(QPoint(left, -size.height())));
+}
+
+void MenuBarWidget::PressByKey(BarButton* button) {
+    host->FocusProgram();
+    button->click();
+    if (button->Menu() != nullptr) {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QCoreApplication::sendEvent(PopupOf(button->Menu(), owner), &down);
+    }
+}
+
+void MenuBarWidget::OpenNeighbour(int step) {
+    std::vector<BarButton*> usable;
+    std::copy_if(buttons.begin(), buttons.end(), std::back_inserter(usable), [](BarButton* button) {
+        return button->isEnabled() && button->Menu() != nullptr;
+    });
+    ClosePopups();
+    PressByKey(Neighbour(usable, openButton, step));
+}
+
+// Left and Right open and close submenus; where there is none they go on to the next popup.
+bool MenuBarWidget::eventFilter(QObject* object, QEvent* event) {
+    const auto* menu = qobject_cast<QMenu*>(object);
+    if (event->type() != QEvent::KeyPress || menu == nullptr) {
+        return false;
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const QAction* selected = menu->activeAction();
+    const bool goesIn = selected != nullptr && selected->isEnabled() && selected->menu() != nullptr;
+    const bool goesOut = qobject_cast<QMenu*>(menu->parentWidget()) != nullptr;
+    if (key == Qt::Key_Right && !goesIn) {
+        OpenNeighbour(1);
+        return true;
+    }
+    if (key == Qt::Key_Left && !goesOut) {
+        OpenNeighbour(-1);
+        return true;
+    }
+    return false;
 }
 
 HMENU MenuBarWidget::MenuOfButton(int command) const {
@@ -176,10 +243,7 @@ void MenuBarWidget::MoveFocus(int step) {
     if (panelButton != nullptr && panelButton->isVisible()) {
         usable.push_back(panelButton);
     }
-    const auto current = std::find(usable.begin(), usable.end(), window()->focusWidget());
-    const auto count = static_cast<int>(usable.size());
-    const auto next = (static_cast<int>(current - usable.begin()) + step + count) % count;
-    usable[static_cast<size_t>(next)]->setFocus(Qt::TabFocusReason);
+    Neighbour(usable, window()->focusWidget(), step)->setFocus(Qt::TabFocusReason);
 }
 
 void MenuBarWidget::AddPanelButton() {
@@ -194,6 +258,7 @@ void MenuBarWidget::AddPanelButton() {
 
 void MenuBarWidget::Close() {
     owner = nullptr;
+    openButton = nullptr;
     for (BarButton* button : buttons) {
         button->deleteLater();
     }

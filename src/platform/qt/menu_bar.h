@@ -13,7 +13,12 @@ class BarButton : public QAbstractButton {
     Q_OBJECT
 
 public:
-    BarButton(QWidget* bar, HostWindow* host, const ArtResource* art);
+    BarButton(QWidget* bar, HostWindow* host, const ArtResource* art, HMENU menu = nullptr);
+
+    // Null for a button without a popup.
+    HMENU Menu() const {
+        return menu;
+    }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -22,8 +27,11 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void HandToProgram(QKeyEvent* event);
+
     HostWindow* host;
     const ArtResource* art;
+    HMENU menu;
 };
 
 class MenuBarWidget : public QWidget {
@@ -43,6 +51,8 @@ public:
     void FocusFirstButton();
     // From the button that has the focus, to the right or left, around the ends.
     void MoveFocus(int step);
+    // A popup that a key opens has its first item selected.
+    void PressByKey(BarButton* button);
 
     void ShowPanelButton(bool shown);
     void ShowPanelState(bool up);
@@ -50,11 +60,14 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    // The arrow keys of open popups.
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void AddButton(const MenuBarButton& button, HINSTANCE instance);
     void AddPanelButton();
-    void OpenPopup(BarButton* button, HMENU menu);
+    void OpenPopup(BarButton* button);
+    void OpenNeighbour(int step);
     void PlaceButtons();
     void RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const;
 
@@ -62,6 +75,7 @@ private:
     HWND owner = nullptr;
     int barId = 0;
     std::vector<BarButton*> buttons;
-    std::map<int, HMENU> popups;  // by the button's command
+    std::map<int, HMENU> popups;      // by the button's command
+    BarButton* openButton = nullptr;  // the one whose popup was opened last
     BarButton* panelButton = nullptr;
 };

@@ -30,3 +30,6 @@ struct MenuObject {
 // The toolkit's popup, built once; its text is sized with the screen. A chosen item's command is
 // queued for the window.
 QMenu* PopupOf(HMENU menu, HWND window);
+
+// With their submenus.
+void ClosePopups();

@@ -1,7 +1,10 @@
 // Menus: the toolkit's own popups over the program's menu resources.
 #include "platform/menus.h"
 
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QStyleOption>
 #include <algorithm>
 #include <map>
 
@@ -13,10 +16,14 @@
 
 namespace {
 
-// The usual style widens the column of check marks with the text's height, but measures an item as
-// if that column had its least width: texts of large menus would be cut.
+// The usual style is made for one size of text. It widens the column of check marks with the text's
+// height, but measures an item as if that column had its least width: texts of large menus would be
+// cut. Its arrows never grow.
 class MenuStyle : public QProxyStyle {
 public:
+    MenuStyle() : QProxyStyle("Fusion") {
+    }
+
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override {
         constexpr double columnPerHeight = 0.79;
@@ -26,6 +33,31 @@ public:
             item.rwidth() += std::max(qRound(item.height() * columnPerHeight) - leastColumn, 0);
         }
         return item;
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (element == PE_IndicatorArrowRight) {
+            DrawArrow(*painter, option->rect, option->palette.color(QPalette::WindowText));
+        } else {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+    }
+
+private:
+    // Half as wide as high.
+    static void DrawArrow(QPainter& painter, const QRectF& box, const QColor& color) {
+        constexpr double share = 0.8;
+        const double height = box.height() * share;
+        const QPointF tail = box.center() - QPointF(height / 4, 0);
+        const QPointF corners[] = {tail - QPointF(0, height / 2), tail + QPointF(height / 2, 0),
+                                   tail + QPointF(0, height / 2)};
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPolygon(corners, 3);
+        painter.restore();
     }
 };
 
@@ -139,6 +171,14 @@ QMenu* PopupOf(HMENU menu, HWND window) {
     menu->owner = window;
     SizeWithScreen(menu->popup);
     return menu->popup;
+}
+
+void ClosePopups() {
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) {
+            break;
+        }
+    }
 }
 
 BOOL TrackPopupMenuEx(HMENU menu, UINT, int x, int y, HWND window, void*) {

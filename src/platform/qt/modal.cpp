@@ -6,11 +6,15 @@
 #include "platform/qt/host_window.h"
 #include "platform/qt/look.h"
 
+QFont ModalFont() {
+    constexpr double em = 10;
+    return BarFont(em * Host().Magnification(), false);
+}
+
 int RunModal(QDialog& dialog) {
     if (EndingAsked()) {
         return QDialog::Rejected;
     }
-    constexpr double em = 10;
-    dialog.setFont(BarFont(em * Host().Magnification(), false));
+    dialog.setFont(ModalFont());
     return dialog.exec();
 }

@@ -1,7 +1,12 @@
 // Running the toolkit's own dialogs over the handheld's screen.
 #pragma once
 
+#include <QtGui/QFont>
+
 class QDialog;
+
+// Sized with the screen.
+QFont ModalFont();
 
 // Rejected at once when the program has been asked to end. Else sizes the dialog's text with the
 // screen, shows it over the screen and returns its result.

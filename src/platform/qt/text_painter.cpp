@@ -254,7 +254,7 @@ public:
     }
 
     void PaintLine(const std::u16string& text, int baseline) const {
-        const Stamp& stamp = FindStamp(sized, mark.font, mark.color, text);
+        const Stamp& stamp = FindStamp(sized, mark.font, mark.color, CutBeyondBox(text));
         const int free = box.width() - stamp.advance;
         const int left = box.left() + (mark.format & DT_CENTER ? free / 2 : 0);
         if (mark.opaque) {
@@ -265,6 +265,25 @@ public:
     }
 
 private:
+    // A hostile clue is one word of thousands of letters: at most twice of what can be seen is
+    // rendered.
+    std::u16string CutBeyondBox(const std::u16string& text) const {
+        constexpr size_t usual = 64;
+        if (text.size() <= usual) {
+            return text;
+        }
+        std::u16string cut = text;
+        const QFontMetricsF metrics(sized.font);
+        while (cut.size() > usual) {
+            const std::u16string half = cut.substr(0, cut.size() / 2);
+            if (metrics.horizontalAdvance(ToQString(half)) < box.width()) {
+                break;
+            }
+            cut = half;
+        }
+        return cut;
+    }
+
     void PaintInside(const Stamp& stamp, QPoint corner) const {
         const QRect whole(corner, stamp.ink.size());
         const QRect visible = whole & box;
