@@ -2,8 +2,8 @@
 # To be sourced.
 
 build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev)
-run_packages=(fonts-liberation fonts-dejavu-core qt6-wayland)
-test_packages=(libgtest-dev xvfb xdotool openbox imagemagick)
+run_packages=(fonts-liberation fonts-dejavu-core qt6-wayland ca-certificates)
+test_packages=(libgtest-dev xvfb xdotool openbox imagemagick openssl)
 
 missing_packages() {
     local installed package
