@@ -7,6 +7,17 @@
 #include "platform/qt/host_window.h"
 #include "platform/qt/modal.h"
 
+namespace {
+
+QMessageBox::Icon IconOf(UINT style) {
+    if ((style & MB_ICONQUESTION) != 0) {
+        return QMessageBox::Question;
+    }
+    return (style & MB_ICONINFORMATION) != 0 ? QMessageBox::Information : QMessageBox::NoIcon;
+}
+
+}  // namespace
+
 int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     const bool question = (style & MB_YESNO) != 0;
     // Before the screen is shown, the middle of the host's screen is the place for a box.
@@ -15,7 +26,7 @@ int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     // Titles of puzzles and file names come from elsewhere and are never markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromUtf16(text));
-    box.setIcon((style & MB_ICONQUESTION) != 0 ? QMessageBox::Question : QMessageBox::NoIcon);
+    box.setIcon(IconOf(style));
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     box.setDefaultButton(question ? QMessageBox::Yes : QMessageBox::Ok);
     const int answer = RunModal(box);
