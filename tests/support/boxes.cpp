@@ -4,6 +4,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -17,6 +18,8 @@ namespace {
 
 std::deque<int> plannedAnswers;
 std::deque<std::filesystem::path> plannedFiles;
+const std::filesystem::path asSuggested = ".";
+std::vector<ShownChooser> shownChoosers;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
 std::function<void()> duringNextBox;
@@ -49,12 +52,17 @@ void Answer(QMessageBox* box) {
 }
 
 void Answer(QFileDialog* dialog) {
+    shownChoosers.push_back({dialog->windowTitle().toStdU16String(),
+                             dialog->directory().absolutePath().toStdString(),
+                             dialog->findChild<QLineEdit*>()->text().toStdString()});
     const std::filesystem::path file = TakeNext(plannedFiles, std::filesystem::path());
     if (file.empty()) {
         dialog->reject();
         return;
     }
-    dialog->selectFile(QString::fromStdString(file.string()));
+    if (file != asSuggested) {
+        dialog->selectFile(QString::fromStdString(file.string()));
+    }
     // As a press of the button does, so that the chooser's own checks run.
     QMetaObject::invokeMethod(dialog, "accept");
 }
@@ -102,6 +110,14 @@ std::vector<ShownMessage> TakeShownMessages() {
 
 void ChooseNextFile(const std::filesystem::path& file) {
     plannedFiles.push_back(file);
+}
+
+void AcceptNextFile() {
+    plannedFiles.push_back(asSuggested);
+}
+
+std::vector<ShownChooser> TakeShownChoosers() {
+    return std::exchange(shownChoosers, {});
 }
 
 int TakeOpenedMenus() {
