@@ -84,7 +84,7 @@ std::string PageWithoutLength(const std::string& content) {
 }
 
 std::string Redirection(const std::string& target) {
-    return Page("", "302 Found", "Location: " + target + "\r\n");
+    return Page("It has moved.", "302 Found", "Location: " + target + "\r\n");
 }
 
 std::vector<std::string> Cut(const std::string& text, std::size_t pieceSize) {

@@ -1,7 +1,11 @@
 // Requests on the toolkit's network stack.
 //
-// It notices a connection that breaks too early, but for one case: an answer in chunks that says
-// "Connection: close" and breaks right between two of them looks like a whole one.
+// Redirections are followed here: the stack would do it, but then the heads of all answers on the
+// way get mixed, and a length or encoding may be another answer's.
+//
+// The stack itself does not always notice that a connection breaks too early, so the announced
+// length, or the end of a compressed answer, is looked for here. What is left out: an uncompressed
+// answer in chunks that breaks off may look whole.
 #include <QtCore/QUrl>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkProxy>
@@ -16,7 +20,7 @@
 
 namespace {
 
-constexpr int mostRedirects = 10;
+constexpr int mostRedirections = 10;
 
 DWORD ErrorOfAddress(const QUrl& address) {
     if (address.isEmpty() || !address.isValid()) {
@@ -26,6 +30,13 @@ DWORD ErrorOfAddress(const QUrl& address) {
         return ERROR_INTERNET_UNRECOGNIZED_SCHEME;
     }
     return address.host().isEmpty() ? ERROR_INTERNET_INVALID_URL : 0;
+}
+
+DWORD ErrorOfRedirection(const QUrl& from, const QUrl& to) {
+    if (from.scheme() == "https" && to.scheme() == "http") {
+        return ERROR_INTERNET_HTTPS_TO_HTTP_ON_REDIR;
+    }
+    return ErrorOfAddress(to) == 0 ? 0 : ERROR_INTERNET_REDIRECT_FAILED;
 }
 
 // The common way to name other certificates to trust than the system's.
@@ -42,9 +53,8 @@ QNetworkRequest MakeRequest(const QUrl& address, const QString& agent) {
     QNetworkRequest request(address);
     request.setHeader(QNetworkRequest::UserAgentHeader, agent);
     request.setRawHeader("Accept-Encoding", "gzip");
-    request.setMaximumRedirectsAllowed(mostRedirects);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::NoLessSafeRedirectPolicy);
+                         QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     // One answer on one connection gains nothing from it.
@@ -55,11 +65,13 @@ QNetworkRequest MakeRequest(const QUrl& address, const QString& agent) {
 
 class HttpTransfer : public Transfer {
 public:
-    explicit HttpTransfer(const TransferRequest& request) : limit(request.limit) {
+    explicit HttpTransfer(const TransferRequest& request)
+        : limit(request.limit), agent(QString::fromUtf16(request.agent)) {
+        manager.setProxy(QNetworkProxy::NoProxy);
         const QUrl address(QString::fromUtf16(request.address).trimmed());
         error = ErrorOfAddress(address);
         if (error == 0) {
-            Start(MakeRequest(address, QString::fromUtf16(request.agent)));
+            Start(address);
         }
     }
 
@@ -89,11 +101,9 @@ public:
     }
 
 private:
-    void Start(const QNetworkRequest& request) {
-        manager.setProxy(QNetworkProxy::NoProxy);
-        reply.reset(manager.get(request));
+    void Start(const QUrl& address) {
+        reply.reset(manager.get(MakeRequest(address, agent)));
         QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, [this] { TakeHead(); });
-        QObject::connect(reply.get(), &QNetworkReply::redirected, [this] { ++signsOfLife; });
         QObject::connect(reply.get(), &QNetworkReply::readyRead, [this] { TakeContent(); });
         QObject::connect(reply.get(), &QNetworkReply::finished, [this] { Finish(); });
         QObject::connect(
@@ -101,72 +111,95 @@ private:
             [this](const QList<QSslError>& errors) { Fail(ErrorOfCertificate(errors)); });
     }
 
-    // The first reason counts.
+    // Ends the connection: nobody knows how long the program will keep its handle open.
     void Fail(DWORD reason) {
-        if (error == 0) {
-            error = reason;
-        }
-    }
-
-    bool IsRedirection() const {
-        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-        return status / 100 == 3 && reply->hasRawHeader("Location");
+        error = reason;
+        reply->disconnect();
+        reply->abort();
     }
 
     void TakeHead() {
         ++signsOfLife;
-        opened = !IsRedirection();
+        if (opened) {
+            return;
+        }
+        const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+        if (!target.isEmpty()) {
+            Follow(reply->url().resolved(target));
+            return;
+        }
+        opened = true;
         const QByteArray encoding = reply->rawHeader("Content-Encoding").toLower();
-        if (opened && !encoding.isEmpty() && encoding != "identity") {
+        if (!encoding.isEmpty() && encoding != "identity") {
             unpacker = std::make_unique<Unpacker>();
         }
-        const auto length = reply->header(QNetworkRequest::ContentLengthHeader).toULongLong();
-        if (opened && length > limit) {
-            RefuseSize();
+        if (AnnouncedSize() > limit) {
+            Fail(ERROR_FILE_TOO_LARGE);
         }
+    }
+
+    void Follow(const QUrl& target) {
+        const DWORD reason = ++redirections > mostRedirections
+                                 ? ERROR_INTERNET_REDIRECT_FAILED
+                                 : ErrorOfRedirection(reply->url(), target);
+        if (reason != 0) {
+            Fail(reason);
+            return;
+        }
+        reply->disconnect();
+        reply.release()->deleteLater();  // it is what called
+        Start(target);
+    }
+
+    // 0 when nothing is announced.
+    std::size_t AnnouncedSize() const {
+        return reply->header(QNetworkRequest::ContentLengthHeader).toULongLong();
+    }
+
+    bool IsCut() const {
+        return arrived < AnnouncedSize() || (unpacker && arrived > 0 && !unpacker->IsComplete());
     }
 
     void TakeContent() {
         ++signsOfLife;
-        if (Ended()) {
-            return;
-        }
         const QByteArray bytes = reply->readAll();
+        arrived += static_cast<std::size_t>(bytes.size());
         if (!unpacker) {
             content += bytes;
         } else if (!unpacker->Unpack(bytes, content, limit)) {
             Fail(ERROR_INTERNET_DECODING_FAILED);
+            return;
         }
         if (Received() > limit) {
-            RefuseSize();
+            Fail(ERROR_FILE_TOO_LARGE);
         }
-    }
-
-    // Ends the connection: nobody knows how long the program will keep its handle open.
-    void RefuseSize() {
-        Fail(ERROR_FILE_TOO_LARGE);
-        reply->abort();
     }
 
     void Finish() {
         TakeContent();
-        if (reply->error() != QNetworkReply::NoError) {
-            Fail(ErrorOfReply(*reply, opened));
+        if (error != 0) {
+            return;
         }
-        if (unpacker && !unpacker->IsComplete()) {
+        const DWORD reason = ErrorOfReply(*reply, opened);
+        if (reason != 0) {
+            Fail(reason);
+        } else if (opened && IsCut()) {
             Fail(ERROR_INTERNET_CONNECTION_RESET);
         }
         ended = true;
     }
 
     std::size_t limit;
+    QString agent;
     QNetworkAccessManager manager;
     std::unique_ptr<QNetworkReply> reply;
     std::unique_ptr<Unpacker> unpacker;  // for a compressed answer
+    std::size_t arrived = 0;             // bytes, still compressed
     QByteArray content;
     std::size_t taken = 0;
     DWORD error = 0;
     int signsOfLife = 0;
+    int redirections = 0;
     bool opened = false;
     bool ended = false;
 };

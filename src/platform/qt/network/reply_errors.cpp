@@ -34,12 +34,8 @@ DWORD ErrorOfReply(const QNetworkReply& reply, bool opened) {
         case QNetworkReply::HostNotFoundError: return ERROR_INTERNET_NAME_NOT_RESOLVED;
         case QNetworkReply::TimeoutError: return ERROR_INTERNET_TIMEOUT;
         case QNetworkReply::SslHandshakeFailedError: return ERROR_INTERNET_SECURITY_CHANNEL_ERROR;
-        case QNetworkReply::InsecureRedirectError: return ERROR_INTERNET_HTTPS_TO_HTTP_ON_REDIR;
-        case QNetworkReply::TooManyRedirectsError:
-        case QNetworkReply::ProtocolUnknownError: return ERROR_INTERNET_REDIRECT_FAILED;
         case QNetworkReply::RemoteHostClosedError:
             return opened ? ERROR_INTERNET_CONNECTION_RESET : ERROR_INTERNET_CONNECTION_ABORTED;
-        case QNetworkReply::UnknownContentError: return ERROR_INTERNET_DECODING_FAILED;
         case QNetworkReply::ProtocolFailure: return ERROR_HTTP_INVALID_SERVER_RESPONSE;
         default: return opened ? ERROR_INTERNET_CONNECTION_RESET : ERROR_INTERNET_CANNOT_CONNECT;
     }
