@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 #include "platform/types.h"
 
@@ -83,6 +84,12 @@ bool ReadPuzzleFile(WCHAR* path);
 // The size of a file that ReadPuzzleFile would read, which need not be square. False when it would
 // not read the file; nobody is told, and nothing changes.
 bool PeekPuzzleSize(const WCHAR* path, int* width, int* height);
+
+// The two size bytes and the solution: what makes two files the same puzzle, to which a player's
+// letters belong. Of a file that ReadPuzzleFile would read, empty for any other; and of the puzzle
+// in play, whose size must fit the arrays.
+std::string SolutionOfFile(const WCHAR* path);
+std::string SolutionInPlay();
 
 // Builds the model from PuzzleImage and puts the selection on the top-left cell. Without a word, it
 // stops after the sizes when the puzzle is not square, and makes both sizes 15 when they are 0.

@@ -37,6 +37,11 @@ struct Candidate {
     }
 };
 
+std::string Solution(int width, int height, const char* cells) {
+    std::string solution = {static_cast<char>(width), static_cast<char>(height)};
+    return solution.append(cells, static_cast<std::size_t>(width * height));
+}
+
 }  // namespace
 
 bool ReadPuzzleFile(WCHAR* path) {
@@ -61,4 +66,16 @@ bool PeekPuzzleSize(const WCHAR* path, int* width, int* height) {
     *width = candidate.Width();
     *height = candidate.Height();
     return true;
+}
+
+std::string SolutionOfFile(const WCHAR* path) {
+    const Candidate candidate(path);
+    if (!candidate.IsPlayable()) {
+        return {};
+    }
+    return Solution(candidate.Width(), candidate.Height(), candidate.bytes.data() + gridOffset);
+}
+
+std::string SolutionInPlay() {
+    return Solution(PuzzleWidth, PuzzleHeight, SolutionGrid);
 }

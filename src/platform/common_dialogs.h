@@ -20,6 +20,11 @@ struct OPENFILENAMEW {
 // (a backslash in it, or more than 259 characters) is explained to the player, who chooses again.
 BOOL GetOpenFileNameW(OPENFILENAMEW* request);
 
+// The same for a file to be written. The chooser opens in the folder of the path in lpstrFile, with
+// the name after its last backslash suggested. A name without an extension gets the pattern's, and
+// the player is asked before an existing file is taken.
+BOOL GetSaveFileNameW(OPENFILENAMEW* request);
+
 constexpr DWORD CC_ENABLEHOOK = 16;
 
 using CCHOOKPROC = UINT (*)(HWND chooser, UINT message, WPARAM wParam, LPARAM lParam);

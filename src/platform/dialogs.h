@@ -7,6 +7,7 @@
 constexpr UINT MB_OK = 0;
 constexpr UINT MB_YESNO = 4;
 constexpr UINT MB_ICONQUESTION = 32;
+constexpr UINT MB_ICONINFORMATION = 64;
 
 constexpr int IDOK = 1;
 constexpr int IDCANCEL = 2;

@@ -4,7 +4,8 @@
 //   \Program Files\Quadrel\...   the user's data folder
 //   any other \a\b               /a/b
 //
-// QUADREL_HOME=DIR puts both folders under DIR.
+// QUADREL_HOME=DIR puts both folders under DIR. GetLastError (errors.h) tells why an operation
+// failed.
 #pragma once
 
 #include "platform/types.h"

@@ -1,6 +1,7 @@
 // Text between the 8-bit bytes of files and the wide characters of the screen.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -12,3 +13,5 @@ std::u16string WidenPath(std::string_view path);
 std::string NarrowPath(std::u16string_view path);
 
 std::u16string DecimalText(int number);
+// Lower-case digits, without leading zeros.
+std::u16string HexadecimalText(std::uint32_t number);

@@ -1,11 +1,16 @@
 // Where the program and the puzzle in play live on the device.
 #pragma once
 
+#include <string_view>
+
 #include "model/path_buffer.h"
 #include "platform/types.h"
 
 // The folder of the program file, with its trailing backslash. Written by start-up.
 inline WCHAR ProgramFolder[MAX_PATH];
+
+// Where downloads go, and where choosers open. Made by start-up.
+inline constexpr std::u16string_view puzzlesFolder = u"\\My Documents\\Quadrel Puzzles";
 
 // Full path of the puzzle in play, empty while there is none; a failed read at start-up leaves its
 // short text here. Written by start-up, LoadProgress and OpenPuzzleFile.

@@ -52,11 +52,19 @@ void PutColor(ProgressRecord& record, std::size_t offset, COLORREF color) {
     PutNumber(record, offset + 2 * colorPartWidth, GetBValue(color));
 }
 
+// A download may have put another puzzle in the place of the one in play, whose letters must not be
+// found there. A file that cannot be read now may come back.
+bool LettersHaveTheirPuzzle() {
+    const std::string solution = SolutionOfFile(CurrentPuzzlePath);
+    return solution.empty() || solution == SolutionInPlay();
+}
+
 // Returns the offset after the last cell. A file that is not square can leave sizes behind that no
-// record holds: what is saved then is the bare board of a start without a puzzle, so that the
-// settings still survive.
+// record holds: what is saved then, as for letters without a puzzle, is the bare board of a start
+// without a puzzle, so that the settings still survive.
 std::size_t PutBoard(ProgressRecord& record, std::size_t offset) {
-    const bool recordable = IsRecordableSize(PuzzleWidth) && IsRecordableSize(PuzzleHeight);
+    const bool recordable =
+        IsRecordableSize(PuzzleWidth) && IsRecordableSize(PuzzleHeight) && LettersHaveTheirPuzzle();
     const int height = recordable ? PuzzleHeight : 15;
     const int width = recordable ? PuzzleWidth : 15;
     const auto cellCount = static_cast<std::size_t>(height * width);

@@ -6,8 +6,9 @@
 
 // Both take a path buffer of 260 wide characters and leave a short text in it when they fail.
 
-// Writes CurrentPuzzlePath, the board and the settings. "Could not open quadrel.dat" when the file
-// cannot be created or written; an old file then stays as it was.
+// Writes CurrentPuzzlePath, the board and the settings. The board is bare when the file of that
+// path has become another puzzle since. "Could not open quadrel.dat" when the file cannot be
+// created or written; an old file then stays as it was.
 void SaveProgress(WCHAR* path);
 
 // Restores them. False with "Could not open User", and nothing changed, when there is no file or

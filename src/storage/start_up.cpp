@@ -25,7 +25,6 @@
 namespace {
 
 constexpr std::u16string_view documentsFolder = u"\\My Documents\\";
-constexpr std::u16string_view puzzlesFolder = u"\\My Documents\\Quadrel Puzzles";
 constexpr std::u16string_view stateFileName = u"quadrel.dat";
 
 void SetDefaultView(HWND window) {

@@ -1,14 +1,15 @@
 #include "platform/files.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <string>
 
 #include "platform/dialogs.h"
+#include "platform/errors.h"
 #include "platform/qt/device_paths.h"
+#include "platform/text.h"
 #include "storage/paths.h"
+#include "support/no_space.h"
 #include "support/played_board.h"
 
 namespace {
@@ -61,19 +62,43 @@ TEST_F(Files, LiveWhereTheirDevicePathsSay) {
               elsewhere);
 }
 
-TEST_F(Files, WhatIsNoFileCannotBeOpened) {
+TEST_F(Files, WhatIsNoFileCannotBeOpenedAndSaysWhy) {
     std::filesystem::create_directory(home.documents() / "folder.puz");
-    for (const char16_t* path : {u"", u"plain.puz", u"\\My Documents\\missing.puz",
-                                 u"\\My Documents\\folder.puz", u"\\My Documents\\"}) {
-        EXPECT_EQ(OpenToRead(path), INVALID_HANDLE_VALUE);
-    }
-    for (const char16_t* path : {u"", u"plain.dat", u"\\My Documents\\folder.puz",
-                                 u"\\My Documents\\no such folder\\a.dat", u"\\proc\\a.dat"}) {
-        EXPECT_EQ(OpenToWrite(path), INVALID_HANDLE_VALUE);
-    }
+    WriteBytes(home.documents() / "file", "");
     const std::u16string tooLong = u"\\My Documents\\" + std::u16string(250, u'a');
-    EXPECT_EQ(OpenToWrite(tooLong.c_str()), INVALID_HANDLE_VALUE);
+    struct {
+        std::u16string path;
+        DWORD toRead;
+        DWORD toWrite;
+    } const wrong[] = {
+        {u"", ERROR_INVALID_NAME, ERROR_INVALID_NAME},
+        {u"plain.puz", ERROR_INVALID_NAME, ERROR_INVALID_NAME},
+        {u"\\My Documents\\folder.puz", ERROR_ACCESS_DENIED, ERROR_ACCESS_DENIED},
+        {u"\\My Documents\\", ERROR_ACCESS_DENIED, ERROR_ACCESS_DENIED},
+        {u"\\My Documents\\missing\\a.dat", ERROR_PATH_NOT_FOUND, ERROR_PATH_NOT_FOUND},
+        {u"\\My Documents\\file\\a.dat", ERROR_PATH_NOT_FOUND, ERROR_PATH_NOT_FOUND},
+        {tooLong, ERROR_FILENAME_EXCED_RANGE, ERROR_FILENAME_EXCED_RANGE},
+    };
+    for (const auto& [path, toRead, toWrite] : wrong) {
+        EXPECT_EQ(OpenToRead(path.c_str()), INVALID_HANDLE_VALUE);
+        EXPECT_EQ(GetLastError(), toRead) << NarrowPath(path);
+        EXPECT_EQ(OpenToWrite(path.c_str()), INVALID_HANDLE_VALUE);
+        EXPECT_EQ(GetLastError(), toWrite) << NarrowPath(path);
+    }
+    EXPECT_EQ(OpenToRead(u"\\My Documents\\missing.puz"), INVALID_HANDLE_VALUE);
+    EXPECT_EQ(GetLastError(), ERROR_FILE_NOT_FOUND);
+    EXPECT_EQ(OpenToWrite(u"\\proc\\a.dat"), INVALID_HANDLE_VALUE);
     EXPECT_FALSE(CloseHandle(INVALID_HANDLE_VALUE));
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_HANDLE);
+}
+
+TEST_F(Files, AFolderThatIsGoneBeforeTheFileIsWholeSaysSo) {
+    std::filesystem::create_directory(home.documents() / "folder");
+    HANDLE file = OpenToWrite(u"\\My Documents\\folder\\a.puz");
+    EXPECT_TRUE(Write(file, "content"));
+    std::filesystem::remove_all(home.documents() / "folder");
+    EXPECT_FALSE(CloseHandle(file));
+    EXPECT_EQ(GetLastError(), ERROR_PATH_NOT_FOUND);
 }
 
 // Faults: the old file is emptied at the start of a write, or a part of the new one is seen.
@@ -87,25 +112,6 @@ TEST_F(Files, AWriteShowsOnlyWhenItIsClosed) {
     EXPECT_EQ(home.Files().size(), 1u) << "a temporary file was left behind";
 }
 
-// As on a full disk, files of this process can grow no further.
-class NoSpace {
-public:
-    NoSpace() {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit tight{1000, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
-    }
-    ~NoSpace() {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-    NoSpace(const NoSpace&) = delete;
-    NoSpace& operator=(const NoSpace&) = delete;
-
-private:
-    rlimit before{};
-};
 
 TEST_F(Files, AFullDiskKeepsTheOldFileAndSaysSo) {
     for (std::size_t size : {4096u, 50000u}) {
@@ -119,6 +125,7 @@ TEST_F(Files, AFullDiskKeepsTheOldFileAndSaysSo) {
             closed = CloseHandle(file);
         }
         EXPECT_FALSE(written && closed) << size << " bytes";
+        EXPECT_EQ(GetLastError(), ERROR_DISK_FULL) << size << " bytes";
         const std::string kept = ReadBytes(home.stateFile());
         EXPECT_TRUE(kept == "the old state") << "a torn file of " << kept.size() << " bytes";
         EXPECT_EQ(home.Files().size(), 1u) << "a temporary file was left behind";

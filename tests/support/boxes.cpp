@@ -6,6 +6,7 @@
 #include <QtWidgets/QColorDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -24,6 +25,8 @@ struct PlannedColor {
     bool accept;
 };
 std::deque<PlannedColor> plannedColors;
+const std::filesystem::path asSuggested = ".";
+std::vector<ShownChooser> shownChoosers;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
 std::function<void()> duringNextBox;
@@ -58,12 +61,17 @@ void Answer(QMessageBox* box) {
 }
 
 void Answer(QFileDialog* dialog) {
+    shownChoosers.push_back({dialog->windowTitle().toStdU16String(),
+                             dialog->directory().absolutePath().toStdString(),
+                             dialog->findChild<QLineEdit*>()->text().toStdString()});
     const std::filesystem::path file = TakeNext(plannedFiles, std::filesystem::path());
     if (file.empty()) {
         dialog->reject();
         return;
     }
-    dialog->selectFile(QString::fromStdString(file.string()));
+    if (file != asSuggested) {
+        dialog->selectFile(QString::fromStdString(file.string()));
+    }
     // As a press of the button does, so that the chooser's own checks run.
     QMetaObject::invokeMethod(dialog, "accept");
 }
@@ -125,6 +133,14 @@ void ChooseNextFile(const std::filesystem::path& file) {
 
 void PickNextColor(COLORREF color, bool accept) {
     plannedColors.push_back({color, accept});
+}
+
+void AcceptNextFile() {
+    plannedFiles.push_back(asSuggested);
+}
+
+std::vector<ShownChooser> TakeShownChoosers() {
+    return std::exchange(shownChoosers, {});
 }
 
 int TakeOpenedMenus() {

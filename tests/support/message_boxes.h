@@ -25,8 +25,19 @@ void DoDuringNextMessageBox(std::function<void()> action);
 std::vector<ShownMessage> TakeShownMessages();
 
 // The file that the next file chooser is given; an empty path cancels it, and so does having
-// planned nothing.
+// planned nothing. A bare name is one in the folder that the chooser shows.
 void ChooseNextFile(const std::filesystem::path& file);
+// Takes what the next chooser suggests.
+void AcceptNextFile();
+
+struct ShownChooser {
+    std::u16string title;
+    std::filesystem::path folder;
+    std::string name;  // the one suggested
+};
+
+// All file choosers shown since the last call.
+std::vector<ShownChooser> TakeShownChoosers();
 
 // The colour that the next colour chooser is given, and whether it is accepted or cancelled.
 void PickNextColor(COLORREF color, bool accept);

@@ -1,4 +1,4 @@
-// The file-open chooser: the toolkit's own.
+// The file choosers: the toolkit's own.
 #include "platform/common_dialogs.h"
 
 #include <QtCore/QDir>
@@ -9,6 +9,7 @@
 #include <QtWidgets/QListView>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStyledItemDelegate>
+#include <string_view>
 
 #include "platform/dialogs.h"
 #include "platform/qt/device_paths.h"
@@ -28,11 +29,8 @@ QString StartFolder() {
     return QDir(puzzles).exists() ? puzzles : DocumentsFolderOnHost();
 }
 
-// "name\0pattern\0\0" to "name (pattern)", in either case of letters.
-QString NameFilter(const WCHAR* filter) {
-    const QString name = QString::fromUtf16(filter);
-    const QString pattern = QString::fromUtf16(filter + name.size() + 1);
-    return QString("%1 (%2 %3)").arg(name, pattern, pattern.toUpper());
+QString PatternOf(const WCHAR* filter) {
+    return QString::fromUtf16(filter + std::u16string_view(filter).size() + 1);
 }
 
 // A folder goes by its own name, but the home's is that of the user.
@@ -68,14 +66,22 @@ void MakeReadable(QFileDialog& dialog) {
     }
 }
 
-bool Choose(const OPENFILENAMEW& request, QString& chosen) {
-    QFileDialog dialog(&Host(), QString::fromUtf16(request.lpstrTitle), StartFolder(),
-                       NameFilter(request.lpstrFilter));
-    dialog.setFileMode(QFileDialog::ExistingFile);
+// "name\0pattern\0\0" to "name (pattern)", in either case of letters.
+QString NameFilter(const WCHAR* filter) {
+    const QString pattern = PatternOf(filter);
+    return QString("%1 (%2 %3)").arg(QString::fromUtf16(filter), pattern, pattern.toUpper());
+}
+
+void SetUp(QFileDialog& dialog, const OPENFILENAMEW& request) {
+    dialog.setWindowTitle(QString::fromUtf16(request.lpstrTitle));
+    dialog.setNameFilter(NameFilter(request.lpstrFilter));
     dialog.setSidebarUrls({QUrl::fromLocalFile(DocumentsFolderOnHost() + "/Quadrel Puzzles"),
                            QUrl::fromLocalFile(DocumentsFolderOnHost()),
                            QUrl::fromLocalFile(QDir::homePath())});
     MakeReadable(dialog);
+}
+
+bool Run(QFileDialog& dialog, QString& chosen) {
     if (RunModal(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return false;
     }
@@ -84,33 +90,92 @@ bool Choose(const OPENFILENAMEW& request, QString& chosen) {
     return true;
 }
 
-void ExplainName(HWND owner, const WCHAR* title) {
-    MessageBoxW(owner,
-                u"The name of this file cannot be used: it is too long or has a backslash in it. "
-                u"Please rename or move the file.",
-                title, MB_OK);
+bool ChooseToOpen(const OPENFILENAMEW& request, QString& chosen) {
+    QFileDialog dialog(&Host(), {}, StartFolder());
+    SetUp(dialog, request);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return Run(dialog, chosen);
 }
 
-bool CopyTo(WCHAR* buffer, DWORD size, const std::u16string& text) {
-    if (text.size() >= size) {
-        return false;
+// The nearest folder that is there, should the wanted one be gone.
+QString PresentFolder(QString folder) {
+    while (!QDir(folder).exists()) {
+        folder = QFileInfo(folder).path();
     }
+    return folder;
+}
+
+// What was chosen before is where the chooser opens again. It does not ask itself before it
+// replaces a file: some desktops' choosers do so before the extension is added.
+bool ChooseToSave(const OPENFILENAMEW& request, QString& chosen) {
+    const qsizetype nameStart = chosen.lastIndexOf('/') + 1;
+    QFileDialog dialog(&Host(), {}, PresentFolder(chosen.left(nameStart)));
+    SetUp(dialog, request);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(QFileInfo(PatternOf(request.lpstrFilter)).suffix());
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (nameStart < chosen.size()) {
+        dialog.selectFile(chosen.mid(nameStart));
+    }
+    return Run(dialog, chosen);
+}
+
+void ExplainName(const OPENFILENAMEW& request, const std::u16string& advice) {
+    const std::u16string text =
+        u"The name of this file cannot be used: it is too long or has a backslash in it. " + advice;
+    MessageBoxW(request.hwndOwner, text.c_str(), request.lpstrTitle, MB_OK);
+}
+
+bool MayReplace(const OPENFILENAMEW& request, const QString& chosen) {
+    const QFileInfo file(chosen);
+    if (!file.exists()) {
+        return true;
+    }
+    const std::u16string question =
+        file.fileName().toStdU16String() + u" is there already. Do you want to replace it?";
+    return MessageBoxW(request.hwndOwner, question.c_str(), request.lpstrTitle,
+                       MB_YESNO | MB_ICONQUESTION) == IDYES;
+}
+
+bool HasUsableName(const OPENFILENAMEW& request, const QString& chosen) {
+    const auto path = ToDevicePath(chosen);
+    const auto nameSize = static_cast<std::size_t>(QFileInfo(chosen).fileName().size());
+    return path && path->size() < request.nMaxFile && nameSize < request.nMaxFileTitle;
+}
+
+void CopyTo(WCHAR* buffer, const std::u16string& text) {
     buffer[text.copy(buffer, text.size())] = 0;
-    return true;
+}
+
+void Answer(OPENFILENAMEW& request, const QString& chosen) {
+    CopyTo(request.lpstrFile, *ToDevicePath(chosen));
+    CopyTo(request.lpstrFileTitle, QFileInfo(chosen).fileName().toStdU16String());
 }
 
 }  // namespace
 
 BOOL GetOpenFileNameW(OPENFILENAMEW* request) {
     QString chosen;
-    while (Choose(*request, chosen)) {
-        const auto path = ToDevicePath(chosen);
-        const std::u16string name = QFileInfo(chosen).fileName().toStdU16String();
-        if (path && CopyTo(request->lpstrFile, request->nMaxFile, *path) &&
-            CopyTo(request->lpstrFileTitle, request->nMaxFileTitle, name)) {
+    while (ChooseToOpen(*request, chosen)) {
+        if (HasUsableName(*request, chosen)) {
+            Answer(*request, chosen);
             return TRUE;
         }
-        ExplainName(request->hwndOwner, request->lpstrTitle);
+        ExplainName(*request, u"Please rename or move the file.");
+    }
+    return FALSE;
+}
+
+BOOL GetSaveFileNameW(OPENFILENAMEW* request) {
+    QString chosen = ToHostPath(request->lpstrFile).value_or(StartFolder() + '/');
+    while (ChooseToSave(*request, chosen)) {
+        if (!HasUsableName(*request, chosen)) {
+            ExplainName(*request, u"Please choose another name or folder.");
+        } else if (MayReplace(*request, chosen)) {
+            Answer(*request, chosen);
+            return TRUE;
+        }
     }
     return FALSE;
 }

@@ -57,6 +57,13 @@ QString BreakLines(const QString& text, const QFont& font, double width) {
     return broken.join('\n');
 }
 
+QMessageBox::Icon IconOf(UINT style) {
+    if ((style & MB_ICONQUESTION) != 0) {
+        return QMessageBox::Question;
+    }
+    return (style & MB_ICONINFORMATION) != 0 ? QMessageBox::Information : QMessageBox::NoIcon;
+}
+
 }  // namespace
 
 int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
@@ -68,7 +75,7 @@ int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     box.setWindowTitle(QString::fromUtf16(title));
     // Titles of puzzles and file names come from elsewhere and are never markup.
     box.setTextFormat(Qt::PlainText);
-    box.setIcon((style & MB_ICONQUESTION) != 0 ? QMessageBox::Question : QMessageBox::NoIcon);
+    box.setIcon(IconOf(style));
     box.setText(BreakLines(QString::fromUtf16(text), ModalFont(), TextWidth(box)));
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     // A stray Enter must not clear a puzzle, and no style bit tells the harmless questions.

@@ -55,3 +55,7 @@ std::string NarrowPath(std::u16string_view path) {
 std::u16string DecimalText(int number) {
     return QString::number(number).toStdU16String();
 }
+
+std::u16string HexadecimalText(std::uint32_t number) {
+    return QString::number(number, 16).toStdU16String();
+}

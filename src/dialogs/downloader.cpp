@@ -1,0 +1,203 @@
+#include "dialogs/downloader.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "app/view.h"
+#include "dialogs/first_block.h"
+#include "model/path_buffer.h"
+#include "model/puzzle.h"
+#include "platform/common_dialogs.h"
+#include "platform/dialogs.h"
+#include "platform/errors.h"
+#include "platform/files.h"
+#include "platform/internet.h"
+#include "platform/text.h"
+#include "storage/paths.h"
+
+namespace {
+
+constexpr DWORD blockSize = 32000;
+
+void ShowError(HWND dialog, const WCHAR* text) {
+    MessageBoxW(dialog, text, u"Error", MB_ICONINFORMATION);
+}
+
+void ShowLastError(HWND dialog, std::u16string_view what) {
+    std::u16string text(what);
+    text.append(u": ").append(HexadecimalText(GetLastError()));
+    ShowError(dialog, text.c_str());
+}
+
+struct ChosenFile {
+    WCHAR path[MAX_PATH] = {};
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    std::string replacedSolution;  // of the puzzle that was there before, empty for none
+
+    ChosenFile() = default;
+    ~ChosenFile() {
+        Close();
+    }
+    ChosenFile(const ChosenFile&) = delete;
+    ChosenFile& operator=(const ChosenFile&) = delete;
+
+    bool Create();
+    // False when what was written could not take its place.
+    bool Close();
+};
+
+bool ChosenFile::Create() {
+    replacedSolution = SolutionOfFile(path);
+    handle =
+        CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return handle != INVALID_HANDLE_VALUE;
+}
+
+// The letters beside the file belong to the puzzle that they were entered in. They are looked for
+// even where no puzzle was: one may have been deleted and left its letters behind.
+void DeleteProgressOf(const WCHAR* puzzlePath) {
+    WCHAR path[MAX_PATH];
+    if (ProgressFilePath(puzzlePath, path) && std::u16string_view(path) != puzzlePath) {
+        DeleteFileW(path);
+    }
+}
+
+bool ChosenFile::Close() {
+    if (handle == INVALID_HANDLE_VALUE) {
+        return true;
+    }
+    if (!CloseHandle(std::exchange(handle, INVALID_HANDLE_VALUE))) {
+        return false;
+    }
+    if (replacedSolution.empty() || SolutionOfFile(path) != replacedSolution) {
+        DeleteProgressOf(path);
+    }
+    return true;
+}
+
+// Both handles are closed at the end of the scope, the link's first.
+struct Connection {
+    HINTERNET root = nullptr;
+    HINTERNET link = nullptr;
+
+    Connection() = default;
+    ~Connection() {
+        if (link != nullptr) {
+            InternetCloseHandle(link);
+        }
+        if (root != nullptr) {
+            InternetCloseHandle(root);
+        }
+    }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+};
+
+bool Open(Connection& connection, HWND dialog, const WCHAR* link) {
+    connection.root = InternetOpenW(u"Example", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0);
+    if (connection.root == nullptr) {
+        ShowLastError(dialog, u"InternetOpen Error");
+        return false;
+    }
+    connection.link =
+        InternetOpenUrlW(connection.root, link, nullptr, 0, INTERNET_FLAG_RAW_DATA, 0);
+    if (connection.link == nullptr) {
+        ShowLastError(dialog, u"InternetOpenUrl Error");
+        return false;
+    }
+    return true;
+}
+
+bool SetUpFile(ChosenFile& file, HWND dialog, std::string_view firstBlock) {
+    if (!IsSquarePuzzle(firstBlock)) {
+        ShowError(dialog, u"Not a valid puzzle file, please check the URL.");
+        return false;
+    }
+    WCHAR name[MAX_PATH];
+    CopyPath(SuggestedName(firstBlock), name);
+    if (ChooseSaveLocation(dialog, name, file.path) == 0) {
+        return false;
+    }
+    if (!file.Create()) {
+        ShowLastError(dialog, u"CreateFile Error");
+        return false;
+    }
+    return true;
+}
+
+bool Write(const ChosenFile& file, HWND dialog, std::string_view block) {
+    DWORD count = 0;
+    const auto size = static_cast<DWORD>(block.size());
+    if (WriteFile(file.handle, block.data(), size, &count, nullptr) && count == size) {
+        return true;
+    }
+    ShowLastError(dialog, u"WriteFile Error");
+    return false;
+}
+
+bool StoreBlock(ChosenFile& file, HWND dialog, std::string_view block) {
+    const bool first = file.handle == INVALID_HANDLE_VALUE;
+    return (!first || SetUpFile(file, dialog, block)) && Write(file, dialog, block);
+}
+
+// The file is in its place before the player is told so.
+int Finish(ChosenFile& file, HWND dialog) {
+    if (!file.Close()) {
+        ShowLastError(dialog, u"WriteFile Error");
+        return 0;
+    }
+    MessageBoxW(dialog, u"Puzzle file  downloaded successfully!", u"Download", MB_ICONINFORMATION);
+    return 1;
+}
+
+bool ConfirmLocation(HWND dialog, const WCHAR* path) {
+    const std::u16string question = std::u16string(u"Save file at this location: ") + path;
+    return MessageBoxW(dialog, question.c_str(), u"Confirm", MB_YESNO | MB_ICONQUESTION) == IDYES;
+}
+
+}  // namespace
+
+int DownloadPuzzle(HWND dialog, const WCHAR* link) {
+    Connection connection;
+    ChosenFile file;
+    if (!Open(connection, dialog, link)) {
+        return 0;
+    }
+    std::array<char, blockSize> block;
+    while (true) {
+        DWORD count = 0;
+        if (!InternetReadFile(connection.link, block.data(), blockSize, &count)) {
+            ShowLastError(dialog, u"InternetReadFile Error");
+            return 0;
+        }
+        if (count == 0) {
+            return Finish(file, dialog);
+        }
+        if (!StoreBlock(file, dialog, {block.data(), count})) {
+            return 0;
+        }
+    }
+}
+
+int ChooseSaveLocation(HWND dialog, WCHAR* name, WCHAR* path) {
+    WCHAR file[MAX_PATH];
+    if (!CopyPath(std::u16string(puzzlesFolder).append(u"\\").append(name), file)) {
+        return 0;
+    }
+    OPENFILENAMEW request;
+    request.hwndOwner = MainWindow;
+    request.lpstrFilter = u"Puzzle files\0*.puz\0";
+    request.lpstrFile = file;
+    request.nMaxFile = MAX_PATH;
+    request.lpstrFileTitle = name;
+    request.nMaxFileTitle = MAX_PATH;
+    request.lpstrTitle = u"Save File";
+    request.Flags = OFN_EXPLORER;
+    if (!GetSaveFileNameW(&request) || !ConfirmLocation(dialog, file)) {
+        return 0;
+    }
+    CopyPath(file, path);
+    return 1;
+}

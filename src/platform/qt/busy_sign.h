@@ -1,0 +1,39 @@
+// The sign over the screen that says that the program is waiting for the network.
+#pragma once
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+class HostWindow;
+
+class BusySign : public QWidget {
+    Q_OBJECT
+
+public:
+    // Waits shorter than this, all of one download together, do not show it.
+    static constexpr int patienceMilliseconds = 300;
+
+    explicit BusySign(HostWindow* host);
+
+    // Around each wait.
+    void Begin();
+    void End();
+    void SetAmount(std::size_t bytes);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void ShowFrame();
+    void PaintRing(QPainter& painter) const;
+    void PaintWords(QPainter& painter) const;
+    QString Words() const;
+
+    HostWindow* host;
+    QTimer frames;
+    QElapsedTimer wait;
+    qint64 waitedBefore = 0;  // milliseconds
+    std::size_t amount = 0;
+    int frame = 0;
+};

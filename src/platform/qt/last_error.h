@@ -1,0 +1,9 @@
+// What GetLastError answers.
+#pragma once
+
+#include "platform/errors.h"
+
+void SetLastError(DWORD error);
+
+// The handheld's number for an errno; the other one for what has no number of its own.
+DWORD ErrorOfSystem(int systemError, DWORD otherwise);

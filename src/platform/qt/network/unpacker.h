@@ -1,0 +1,30 @@
+// Unpacking of compressed answers while they arrive.
+//
+// The toolkit would do it, too, but forgets the announced length over it: a connection cut in the
+// middle would look like the end.
+#pragma once
+
+#include <zlib.h>
+
+#include <QtCore/QByteArray>
+
+class Unpacker {
+public:
+    // Takes the format of the HTTP encodings gzip and deflate, whichever it is.
+    Unpacker();
+    ~Unpacker();
+    Unpacker(const Unpacker&) = delete;
+    Unpacker& operator=(const Unpacker&) = delete;
+
+    // Appends what the packed bytes hold, until the content is longer than the limit. False when
+    // they are broken.
+    bool Unpack(QByteArray packed, QByteArray& content, std::size_t limit);
+    // Whether the end of the packed stream was seen, with its checksum.
+    bool IsComplete() const {
+        return complete;
+    }
+
+private:
+    z_stream stream{};
+    bool complete = false;
+};
