@@ -11,6 +11,7 @@
 #include "board/word_highlight.h"
 #include "dialogs/about.h"
 #include "dialogs/clue_list.h"
+#include "dialogs/download.h"
 #include "dialogs/preferences.h"
 #include "dialogs/quick_help.h"
 #include "keyboard/keyboard_drawing.h"
@@ -150,6 +151,7 @@ bool RunCommand(HWND window, int command) {
         case commandPreferences: ChangePreferences(window); return true;
         case commandHelp: ShowQuickHelp(window); return true;
         case commandAbout: ShowAboutAnew(window); return true;
+        case commandDownload: ShowDownload(window); return true;
         case commandPuzzleInfo: ShowPuzzleInfo(window); return true;
         default: return false;
     }

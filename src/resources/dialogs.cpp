@@ -32,6 +32,18 @@ constexpr ControlResource preferencesControls[] = {
     {IDOK, PushButton, u"OK", 8, 133, 35, 15},
 };
 
+// The keyboard is for the edit box, and Enter there gets its link.
+constexpr ControlResource downloadControls[] = {
+    {controlDownloadHeading, Static, u"Download Puzzles", 7, 5, 100, 12},
+    {controlLinks, ListBox, u"", 7, 22, 102, 53},
+    {controlDeleteLink, PushButton, u"Delete", 115, 22, 34, 14},
+    {controlGetNew, PushButton, u"Get New", 115, 39, 34, 14},
+    {controlLink, EditBox, u"", 7, 83, 102, 14},
+    {controlGet, DefaultButton, u"Get", 115, 82, 34, 14},
+    {controlKeepLinks, PushButton, u"OK", 7, 104, 50, 14},
+    {noControlId, Static, u"Puzzles: shop.example.com\nand bundles.example.com", 7, 123, 112, 28},
+};
+
 constexpr ControlResource HelpIcon(int bitmap, int y) {
     return {noControlId, Picture, u"", 15, y, 13, 12, bitmap};
 }
@@ -67,6 +79,7 @@ constexpr ControlResource aboutControls[] = {
 };
 
 constexpr DialogResource dialogs[] = {
+    {dialogDownload, u"Download Puzzles", u"MS Sans Serif", fontPoints, 240, 270, downloadControls},
     {dialogAbout, u"About Quadrel", u"System", fontPoints, 160, 194, aboutControls},
     {dialogPreferences, u"Preferences", u"MS Sans Serif", fontPoints, 188, 205,
      preferencesControls},

@@ -16,6 +16,7 @@ constexpr int bitmapLogoLeft = 145;
 constexpr int bitmapLogoTop = 146;
 constexpr int bitmapLogoRight = 147;
 
+constexpr int dialogDownload = 101;
 constexpr int dialogAbout = 103;
 constexpr int dialogPreferences = 104;
 constexpr int dialogClueList = 126;
@@ -36,6 +37,15 @@ constexpr int controlBackgroundColor = 1023;
 constexpr int controlSquareColor = 1024;
 constexpr int controlAutoSkip = 1043;
 constexpr int controlShowNumbers = 1057;
+
+// Controls of the download dialog.
+constexpr int controlLinks = 1030;
+constexpr int controlGet = 1031;
+constexpr int controlDeleteLink = 1032;
+constexpr int controlLink = 1033;
+constexpr int controlGetNew = 1034;
+constexpr int controlDownloadHeading = 1035;
+constexpr int controlKeepLinks = 1047;
 
 // Controls of quick help and About.
 constexpr int controlHelpOpen = 1037;

@@ -8,7 +8,7 @@ constexpr MenuItemResource separator{};
 
 constexpr MenuItemResource puzzlesItems[] = {
     {u"Available", commandAvailable},
-    {u"Download", commandDownload, {}, false},
+    {u"Download", commandDownload},
 };
 constexpr MenuItemResource toggleItems[] = {
     {u"Auto Skip", commandAutoSkip},
