@@ -34,7 +34,6 @@ struct MenuItemResource {
     const WCHAR* text = nullptr;
     int command = 0;
     std::span<const MenuItemResource> submenu{};
-    bool available = true;  // false while nothing answers the command
 };
 
 struct MenuResource {
@@ -50,7 +49,6 @@ struct MenuBarButton {
     int style;
     int popup;             // index of its popup in the menu of the bar's number, or noPopup
     const WCHAR* caption;  // shown as the tooltip
-    bool available;        // false while nothing answers the command
 };
 
 struct MenuBarResource {

@@ -56,15 +56,15 @@ constexpr int dropDownButton = 0x18;
 constexpr int plainButton = 0x10;
 
 constexpr MenuBarButton menuBarButtons[] = {
-    {0, commandMainMenu, dropDownButton, 0, u"Main Menu", true},
-    {1, commandCheck, plainButton, noPopup, u"Checks the puzzle", true},
-    {2, commandHintMenu, dropDownButton, 1, u"Display a hint", true},
-    {4, commandOpen, plainButton, noPopup, u"Select a new puzzle", true},
-    {5, commandClueList, plainButton, noPopup, u"Open the clue list", true},
-    {6, commandSizeMenu, dropDownButton, 2, u"Puzzle magnification", true},
-    {7, commandToggleDirection, plainButton, noPopup, u"Toggle clues across / down", true},
-    {8, commandKeyboard, plainButton, noPopup, u"Display Keyboard", true},
-    {9, commandAbout, plainButton, noPopup, u"About Quadrel", true},
+    {0, commandMainMenu, dropDownButton, 0, u"Main Menu"},
+    {1, commandCheck, plainButton, noPopup, u"Checks the puzzle"},
+    {2, commandHintMenu, dropDownButton, 1, u"Display a hint"},
+    {4, commandOpen, plainButton, noPopup, u"Select a new puzzle"},
+    {5, commandClueList, plainButton, noPopup, u"Open the clue list"},
+    {6, commandSizeMenu, dropDownButton, 2, u"Puzzle magnification"},
+    {7, commandToggleDirection, plainButton, noPopup, u"Toggle clues across / down"},
+    {8, commandKeyboard, plainButton, noPopup, u"Display Keyboard"},
+    {9, commandAbout, plainButton, noPopup, u"About Quadrel"},
 };
 
 constexpr MenuBarResource menuBars[] = {

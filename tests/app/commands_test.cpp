@@ -284,37 +284,4 @@ TEST_F(Commands, ContextMenuShowsTheHintsOfTheHeldCell) {
     }
 }
 
-void ClickItem(QMenu* menu, const QString& text) {
-    for (QAction* action : menu->actions()) {
-        if (action->text() != text) {
-            continue;
-        }
-        const QPointF place = menu->actionGeometry(action).center();
-        for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, place, menu->mapToGlobal(place), Qt::LeftButton,
-                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                              Qt::NoModifier);
-            QCoreApplication::sendEvent(menu, &event);
-        }
-    }
-}
-
-// What nothing answers yet cannot be chosen, neither with the stylus nor with Enter.
-TEST_F(Commands, DisabledItemsAndButtonsCannotBeChosen) {
-    const QImage before = handheld->Client();
-    QStringList disabled;
-    const ShownMenu menu = LookAtMenu(*handheld, mainMenu);
-    for (const auto& [path, item] : menu.items) {
-        if (!item.enabled) {
-            disabled << path;
-            ChooseFromBar(*handheld, mainMenu, path.split("/"));
-            ClickItem(menu.popup, path);
-            handheld->Settle();
-        }
-    }
-    EXPECT_EQ(disabled, (QStringList{"Puzzles/Download"}));
-    EXPECT_TRUE(handheld->Running());
-    EXPECT_EQ(handheld->Client(), before);
-}
-
 }  // namespace

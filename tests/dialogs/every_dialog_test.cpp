@@ -22,6 +22,7 @@ constexpr KnownDialog knownDialogs[] = {
     {"Quadrel Clues", "Open the clue list", nullptr, commandClueList, commandClose},
     {"Preferences", nullptr, "Preferences", commandPreferences, commandClose},
     {"Quadrel Quick Help", nullptr, "Help", commandHelp, controlHelpClose},
+    {"Download Puzzles", nullptr, "Puzzles/Download", commandDownload, controlKeepLinks},
     {"About Quadrel", "About Quadrel", nullptr, commandAbout, controlAboutClose},
 };
 
@@ -31,7 +32,7 @@ protected:
         if (known.button != nullptr) {
             EXPECT_TRUE(handheld->PressButton(known.button));
         } else {
-            EXPECT_TRUE(ChooseFromBar(*handheld, "Main Menu", {known.item}));
+            EXPECT_TRUE(ChooseFromBar(*handheld, "Main Menu", QString(known.item).split('/')));
         }
     }
     void Use(const KnownDialog& known, const std::function<void(OpenDialog&)>& use) {

@@ -152,7 +152,6 @@ void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance)
     const QString caption = QString::fromUtf16(resource.caption);
     button->setToolTip(caption);
     button->setAccessibleName(caption);
-    button->setEnabled(resource.available);
     const int command = resource.command;
     popups[command] = menu;
     connect(button, &QAbstractButton::clicked, this, [this, button, command] {

@@ -83,7 +83,6 @@ void AddCommand(QMenu* popup, MenuItem& item, const MenuObject* root) {
     item.action = popup->addAction(QString::fromUtf16(item.resource->text));
     item.action->setCheckable(item.checked);
     item.action->setChecked(item.checked);
-    item.action->setEnabled(item.resource->available);
     const int command = item.resource->command;
     QObject::connect(item.action, &QAction::triggered, popup, [root, command] {
         PostMessageW(root->owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
@@ -96,9 +95,6 @@ void FillPopup(QMenu* popup, MenuObject* menu, const MenuObject* root) {
             QMenu* submenu = popup->addMenu(QString::fromUtf16(item.resource->text));
             SetMenuStyle(submenu);
             FillPopup(submenu, item.submenu.get(), root);
-            submenu->setEnabled(
-                std::any_of(item.submenu->items.begin(), item.submenu->items.end(),
-                            [](const MenuItem& inner) { return inner.resource->available; }));
         } else if (item.resource->text != nullptr) {
             AddCommand(popup, item, root);
         } else {
