@@ -9,9 +9,11 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <deque>
+#include <ostream>
 #include <utility>
 
 #include "platform/dialogs.h"
+#include "platform/text.h"
 #include "support/message_boxes.h"
 
 namespace {
@@ -102,6 +104,10 @@ void AnswerNextMessageBox(int answer) {
 
 void DoDuringNextMessageBox(std::function<void()> action) {
     duringNextBox = std::move(action);
+}
+
+void PrintTo(const ShownMessage& message, std::ostream* out) {
+    *out << NarrowPath(message.title) << " | " << NarrowPath(message.text);
 }
 
 std::vector<ShownMessage> TakeShownMessages() {

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ struct ShownMessage {
     std::u16string title;
     bool operator==(const ShownMessage&) const = default;
 };
+void PrintTo(const ShownMessage& message, std::ostream* out);
 
 // The answer (IDOK, IDYES, IDNO) for the next box that nobody has planned an answer for yet.
 // A box without a planned answer is closed like with Escape.
