@@ -50,6 +50,7 @@ protected:
         fs::create_directories(folder);
     }
     ~Downloading() override {
+        ForgetPlans();
         TakeShownChoosers();
     }
     int Download(const std::string& link) {

@@ -122,6 +122,12 @@ void AcceptNextFile() {
     plannedFiles.push_back(asSuggested);
 }
 
+void ForgetPlans() {
+    plannedAnswers.clear();
+    plannedFiles.clear();
+    duringNextBox = nullptr;
+}
+
 std::vector<ShownChooser> TakeShownChoosers() {
     return std::exchange(shownChoosers, {});
 }

@@ -30,6 +30,9 @@ void ChooseNextFile(const std::filesystem::path& file);
 // Takes what the next chooser suggests.
 void AcceptNextFile();
 
+// A test that failed may not have used all of its plans.
+void ForgetPlans();
+
 struct ShownChooser {
     std::u16string title;
     std::filesystem::path folder;
