@@ -1,9 +1,11 @@
 // The process: brings the handheld up, then runs the program on it.
 #include <QtWidgets/QApplication>
+#include <cstdlib>
 
 #include "platform/qt/endings.h"
 #include "platform/qt/first_start.h"
 #include "platform/qt/font_warm_up.h"
+#include "platform/qt/waiting.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 
@@ -23,5 +25,8 @@ int main(int argumentCount, char** arguments) {
     WCHAR commandLine[] = u"";
     const int exitCode = WinMain(&programResources, nullptr, commandLine, SW_SHOW);
     AwaitFonts();
+    if (waitWasGivenUp) {
+        std::quick_exit(exitCode);
+    }
     return exitCode;
 }
