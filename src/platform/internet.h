@@ -29,8 +29,8 @@ HINTERNET InternetOpenUrlW(HINTERNET root, const WCHAR* address, const WCHAR* he
                            DWORD headersLength, DWORD flags, std::uintptr_t context);
 
 // Fills the buffer unless the answer ends before; TRUE with 0 bytes at its end. FALSE, with nothing
-// read, when the connection breaks before the announced end, or with ERROR_FILE_TOO_LARGE when the
-// answer holds more than 1 MiB.
+// read, when the connection breaks before the buffer is full and before the announced end, or with
+// ERROR_FILE_TOO_LARGE when the answer holds more than 1 MiB.
 BOOL InternetReadFile(HINTERNET link, void* buffer, DWORD size, DWORD* bytesRead);
 
 // A link's connection ends with its handle. The root handle is closed last.

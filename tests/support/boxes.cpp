@@ -11,9 +11,11 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <deque>
+#include <ostream>
 #include <utility>
 
 #include "platform/dialogs.h"
+#include "platform/text.h"
 #include "support/message_boxes.h"
 
 namespace {
@@ -123,6 +125,10 @@ void DoDuringNextMessageBox(std::function<void()> action) {
     duringNextBox = std::move(action);
 }
 
+void PrintTo(const ShownMessage& message, std::ostream* out) {
+    *out << NarrowPath(message.title) << " | " << NarrowPath(message.text);
+}
+
 std::vector<ShownMessage> TakeShownMessages() {
     return std::exchange(shownMessages, {});
 }
@@ -137,6 +143,12 @@ void PickNextColor(COLORREF color, bool accept) {
 
 void AcceptNextFile() {
     plannedFiles.push_back(asSuggested);
+}
+
+void ForgetPlans() {
+    plannedAnswers.clear();
+    plannedFiles.clear();
+    duringNextBox = nullptr;
 }
 
 std::vector<ShownChooser> TakeShownChoosers() {

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@ struct ShownMessage {
     std::u16string title;
     bool operator==(const ShownMessage&) const = default;
 };
+void PrintTo(const ShownMessage& message, std::ostream* out);
 
 // The answer (IDOK, IDYES, IDNO) for the next box that nobody has planned an answer for yet.
 // A box without a planned answer is closed like with Escape.
@@ -29,6 +31,9 @@ std::vector<ShownMessage> TakeShownMessages();
 void ChooseNextFile(const std::filesystem::path& file);
 // Takes what the next chooser suggests.
 void AcceptNextFile();
+
+// A test that failed may not have used all of its plans.
+void ForgetPlans();
 
 struct ShownChooser {
     std::u16string title;

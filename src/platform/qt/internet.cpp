@@ -71,7 +71,9 @@ BOOL InternetReadFile(HINTERNET link, void* buffer, DWORD size, DWORD* bytesRead
     Transfer& transfer = *link->transfer;
     const DWORD error =
         AwaitTransfer(transfer, *link->sign, [&] { return transfer.Waiting() >= size; });
-    if (error != 0 || transfer.Error() != 0) {
+    // Whole blocks that came before it broke are still good.
+    const bool broken = transfer.Error() != 0 && transfer.Waiting() < size;
+    if (error != 0 || broken) {
         return Fail(error != 0 ? error : transfer.Error());
     }
     *bytesRead = static_cast<DWORD>(transfer.Take(static_cast<char*>(buffer), size));

@@ -85,6 +85,13 @@ private:
     int heard = 0;
 };
 
+DWORD ReasonToGiveUp(Silence& silence) {
+    if (EndingAsked()) {
+        return ERROR_INTERNET_OPERATION_CANCELLED;
+    }
+    return silence.TooLong() ? ERROR_INTERNET_TIMEOUT : 0;
+}
+
 }  // namespace
 
 DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
@@ -92,9 +99,11 @@ DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
     const InputDropper dropper;
     const ShownSign shown(sign);
     Silence silence(transfer);
-    while (!EndingAsked() && !transfer.Ended() && !condition()) {
-        if (silence.TooLong()) {
-            return ERROR_INTERNET_TIMEOUT;
+    while (!transfer.Ended() && !condition()) {
+        const DWORD error = ReasonToGiveUp(silence);
+        if (error != 0) {
+            waitWasGivenUp = true;
+            return error;
         }
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         sign.SetAmount(transfer.Received());

@@ -11,6 +11,10 @@ class Transfer;
 // A server that says nothing for longer is given up. Tests are less patient.
 inline int longestSilence = 30'000;  // milliseconds
 
+// A name that nobody waits for any more may still be looked up, and the toolkit would hold the end
+// of the process back until the resolver has given up, too. Written by AwaitTransfer.
+inline bool waitWasGivenUp = false;
+
 // Keeps the window alive, and shows the sign, until the condition holds or the transfer has ended;
 // input is dropped meanwhile. 0, or ERROR_INTERNET_TIMEOUT or ERROR_INTERNET_OPERATION_CANCELLED.
 DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
