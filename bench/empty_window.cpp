@@ -1,8 +1,10 @@
-// The least that a program of this toolkit can do: show an empty window and end after its first
-// frame. start_time measures it beside the game.
+// The least that a program of this toolkit can do: show an empty window, as large as the game's, and
+// end after its first frame. start_time measures it beside the game.
 #include <QtCore/QTimer>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -19,7 +21,9 @@ protected:
 int main(int argumentCount, char** arguments) {
     QApplication application(argumentCount, arguments);
     EmptyWindow window;
-    window.resize(480, 640);
+    const QSize desktop = QGuiApplication::primaryScreen()->availableSize();
+    const double fit = std::min(desktop.width() * 0.9 / 240, desktop.height() * 0.9 / 320);
+    window.resize(QSize(240, 320) * std::max(static_cast<int>(fit), 1));
     window.show();
     return QApplication::exec();
 }

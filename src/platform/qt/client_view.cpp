@@ -38,7 +38,7 @@ void ClientView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawImage(host->ExactPlace(window->frame).topLeft() - QPointF(pos()), shown);
-    host->ShowIcon();
+    host->FinishStart();
 }
 
 POINT ClientView::ClientPoint(const QMouseEvent* event) const {

@@ -112,9 +112,12 @@ void HostWindow::EnableMenuBar(bool enabled) {
     menuBar->setEnabled(enabled);
 }
 
-void HostWindow::ShowIcon() {
+void HostWindow::FinishStart() {
     if (HICON icon = std::exchange(iconToShow, nullptr)) {
-        QTimer::singleShot(0, this, [icon] { QApplication::setWindowIcon(ToQIcon(icon)); });
+        QTimer::singleShot(0, this, [this, icon] {
+            QApplication::setWindowIcon(ToQIcon(icon));
+            menuBar->NameButtons();
+        });
     }
 }
 

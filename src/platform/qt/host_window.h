@@ -37,8 +37,8 @@ public:
     void ShowDoneButton(bool shown);
     // While a dialog is open, the menu bar takes nothing.
     void EnableMenuBar(bool enabled);
-    // Behind the first frame: nobody should wait for the game because of its icon.
-    void ShowIcon();
+    // Called with every frame; what nobody should wait for is done behind the first one.
+    void FinishStart();
     void ShowIfHidden();
     void ComeForward();
     void PlaceWidgets();

@@ -151,7 +151,6 @@ void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance)
     auto* button = new BarButton(this, host, FindArt(instance, resource.image), menu);
     const QString caption = QString::fromUtf16(resource.caption);
     button->setToolTip(caption);
-    button->setAccessibleName(caption);
     const int command = resource.command;
     popups[command] = menu;
     connect(button, &QAbstractButton::clicked, this, [this, button, command] {
@@ -160,6 +159,12 @@ void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance)
     });
     button->show();
     buttons.push_back(button);
+}
+
+void MenuBarWidget::NameButtons() {
+    for (BarButton* button : findChildren<BarButton*>(Qt::FindDirectChildrenOnly)) {
+        button->setAccessibleName(button->toolTip());
+    }
 }
 
 // Stands on the bar, above its button, inside the screen where it fits.
@@ -249,7 +254,6 @@ void MenuBarWidget::AddPanelButton() {
     panelButton = new BarButton(this, host, &panelArt);
     panelButton->setCheckable(true);
     panelButton->setToolTip("Keyboard");
-    panelButton->setAccessibleName("Keyboard");
     connect(panelButton, &QAbstractButton::toggled, this,
             [this](bool up) { host->SetPanelUp(up); });
     panelButton->show();

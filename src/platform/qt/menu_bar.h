@@ -54,6 +54,10 @@ public:
     // A popup that a key opens has its first item selected.
     void PressByKey(BarButton* button);
 
+    // For screen readers. The first name that is given makes the toolkit look for its accessibility
+    // plugins, which takes milliseconds.
+    void NameButtons();
+
     void ShowPanelButton(bool shown);
     void ShowPanelState(bool up);
 
