@@ -54,9 +54,11 @@ void ClientView::mousePressEvent(QMouseEvent* event) {
     }
 }
 
-// The second press of a quick pair is a tap like any other.
+// The second press of a quick pair is a tap like any other, unless the first one closed a dialog.
 void ClientView::mouseDoubleClickEvent(QMouseEvent* event) {
-    mousePressEvent(event);
+    if (PressedBefore()) {
+        mousePressEvent(event);
+    }
 }
 
 void ClientView::mouseMoveEvent(QMouseEvent* event) {
