@@ -52,19 +52,9 @@ void SaveLinkList(HWND dialog) {
     WriteLinks(links);
 }
 
-void MakeHeadingBold(HWND dialog) {
-    constexpr LONG bold = 700;
-    const LRESULT font = SendDlgItemMessageW(dialog, controlDownloadHeading, WM_GETFONT, 0, 0);
-    LOGFONTW description;
-    GetObjectW(reinterpret_cast<HFONT>(font), sizeof description, &description);
-    description.lfWeight = bold;
-    headingFont = CreateFontIndirectW(&description);
-    SendDlgItemMessageW(dialog, controlDownloadHeading, WM_SETFONT,
-                        reinterpret_cast<WPARAM>(headingFont), TRUE);
-}
-
 void Open(HWND dialog) {
-    MakeHeadingBold(dialog);
+    headingFont = MakeBoldFont(dialog, controlDownloadHeading);
+    SetControlFont(dialog, controlDownloadHeading, headingFont);
     LoadLinkList(dialog);
     FillScreen(dialog, wholeScreen);
 }

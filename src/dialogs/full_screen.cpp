@@ -1,6 +1,8 @@
 #include "dialogs/full_screen.h"
 
 #include "app/view.h"
+#include "platform/controls.h"
+#include "platform/drawing.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 
@@ -31,4 +33,17 @@ void LowerPanel() {
 void CloseDialogBox(HWND dialog) {
     SHFullScreen(dialog, SHFS_SHOWTASKBAR | SHFS_SHOWSIPBUTTON | SHFS_SHOWSTARTICON);
     EndDialog(dialog, 1);
+}
+
+HFONT MakeBoldFont(HWND dialog, int control) {
+    constexpr LONG bold = 700;
+    const LRESULT font = SendDlgItemMessageW(dialog, control, WM_GETFONT, 0, 0);
+    LOGFONTW description;
+    GetObjectW(reinterpret_cast<HFONT>(font), sizeof description, &description);
+    description.lfWeight = bold;
+    return CreateFontIndirectW(&description);
+}
+
+void SetControlFont(HWND dialog, int control, HFONT font) {
+    SendDlgItemMessageW(dialog, control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }

@@ -20,3 +20,7 @@ void HidePanelButton(HWND dialog);
 void LowerPanel();
 
 void CloseDialogBox(HWND dialog);
+
+// The control's font in bold; the caller's to delete after the dialog.
+HFONT MakeBoldFont(HWND dialog, int control);
+void SetControlFont(HWND dialog, int control, HFONT font);

@@ -18,14 +18,9 @@ HBRUSH squareBrush = nullptr;
 HBRUSH backgroundBrush = nullptr;
 
 void MakeCaptionsBold(HWND dialog) {
-    constexpr LONG bold = 700;
-    const LRESULT font = SendDlgItemMessageW(dialog, controlSizeGroup, WM_GETFONT, 0, 0);
-    LOGFONTW description;
-    GetObjectW(reinterpret_cast<HFONT>(font), sizeof description, &description);
-    description.lfWeight = bold;
-    captionFont = CreateFontIndirectW(&description);
+    captionFont = MakeBoldFont(dialog, controlSizeGroup);
     for (int group : {controlSizeGroup, controlToggleGroup, controlColorGroup}) {
-        SendDlgItemMessageW(dialog, group, WM_SETFONT, reinterpret_cast<WPARAM>(captionFont), TRUE);
+        SetControlFont(dialog, group, captionFont);
     }
 }
 
