@@ -1,8 +1,8 @@
 # The Debian packages that Quadrel needs, and the installing of those that are missing.
 # To be sourced.
 
-build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev zlib1g-dev)
-run_packages=(fonts-liberation fonts-dejavu-core qt6-wayland ca-certificates)
+build_packages=(cmake ninja-build g++ qt6-base-dev zlib1g-dev)
+run_packages=(libqt6svg6 fonts-liberation fonts-dejavu-core qt6-wayland ca-certificates)
 test_packages=(libgtest-dev xvfb xdotool openbox imagemagick openssl)
 
 missing_packages() {

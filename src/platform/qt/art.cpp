@@ -1,7 +1,6 @@
 #include "platform/qt/art.h"
 
-#include <QtGui/QPainter>
-#include <QtSvg/QSvgRenderer>
+#include <QtGui/QImageReader>
 #include <map>
 #include <thread>
 #include <tuple>
@@ -10,16 +9,15 @@ namespace {
 
 using ArtKey = std::tuple<QString, int, int>;
 
+// By the toolkit's plugin, which is loaded here: linked to the program, its library would be on the
+// way of every start's main thread.
 QImage RenderFile(const QString& path, QSize size) {
-    QSvgRenderer renderer(path);
-    if (!renderer.isValid() || size.isEmpty()) {
+    if (size.isEmpty()) {
         return {};
     }
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    renderer.render(&painter, QRectF(QPointF(), QSizeF(size)));
-    return image;
+    QImageReader reader(path, "svg");
+    reader.setScaledSize(size);
+    return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 std::map<ArtKey, QImage> rendered;
