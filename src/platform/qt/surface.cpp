@@ -1,9 +1,6 @@
 #include "platform/qt/surface.h"
 
-#include <sys/mman.h>
-
 #include <algorithm>
-#include <cstdlib>
 #include <set>
 
 #include "platform/qt/mark_painter.h"
@@ -25,22 +22,6 @@ RECT WholeArea(QSize size) {
 
 QSize UsableSize(int width, int height) {
     return {std::max(width, 1), std::max(height, 1)};
-}
-
-// A large image lies in large pages of memory: with small ones, the kernel would be asked for every
-// single one of them in the middle of the first frame.
-QImage NewImage(QSize size) {
-    constexpr std::size_t page = 2 * 1024 * 1024;
-    const qsizetype lineBytes = size.width() * static_cast<qsizetype>(sizeof(QRgb));
-    const auto bytes = static_cast<std::size_t>(lineBytes * size.height());
-    const std::size_t room = (bytes + page - 1) / page * page;
-    void* memory = bytes < page / 2 ? nullptr : std::aligned_alloc(page, room);
-    if (memory == nullptr) {
-        return {size, QImage::Format_RGB32};
-    }
-    madvise(memory, room, MADV_HUGEPAGE);
-    return {static_cast<uchar*>(memory), size.width(), size.height(), lineBytes,
-            QImage::Format_RGB32,        std::free,    memory};
 }
 
 }  // namespace
@@ -140,8 +121,8 @@ const QImage& Surface::Image() {
 void Surface::Render() {
     const QSize size = picture->size;
     if (image.isNull()) {
-        image =
-            NewImage({std::max(scale.At(size.width()), 1), std::max(scale.At(size.height()), 1)});
+        image = QImage(std::max(scale.At(size.width()), 1), std::max(scale.At(size.height()), 1),
+                       QImage::Format_RGB32);
         // A picture that begins by covering everything needs no ground.
         if (picture->marks.empty() ||
             !Contains(HiddenArea(picture->marks.front()), WholeArea(size))) {
