@@ -94,8 +94,14 @@ void HandleCommand(HWND dialog, int command) {
 
 void FollowActivation(HWND dialog, WPARAM wParam, LPARAM lParam) {
     if (LOWORD(wParam) != WA_INACTIVE) {
+        ShellActivateInfo = {};
         SHHandleWMActivate(dialog, wParam, lParam, &ShellActivateInfo, 0);
     }
+}
+
+void FollowInputPanel(HWND dialog, WPARAM wParam, LPARAM lParam) {
+    ShellActivateInfo = {};
+    SHHandleWMSettingChange(dialog, wParam, lParam, &ShellActivateInfo);
 }
 
 LRESULT PreferencesProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -106,9 +112,7 @@ LRESULT PreferencesProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
         case WM_CTLCOLORDLG:
         case WM_CTLCOLORSTATIC: return WhiteBrush();
         case WM_ACTIVATE: FollowActivation(dialog, wParam, lParam); return FALSE;
-        case WM_SETTINGCHANGE:
-            SHHandleWMSettingChange(dialog, wParam, lParam, &ShellActivateInfo);
-            return FALSE;
+        case WM_SETTINGCHANGE: FollowInputPanel(dialog, wParam, lParam); return FALSE;
         default: return FALSE;
     }
 }
