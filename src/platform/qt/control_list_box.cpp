@@ -63,9 +63,11 @@ struct ListBox : Control {
         return line >= 0 && line < List()->count();
     }
 
+    // The tip shows what does not fit. Marked as rich text, for else the toolkit would guess.
     LRESULT Add(const WCHAR* text) {
-        List()->addItem(QString::fromUtf16(text));
-        List()->item(List()->count() - 1)->setToolTip(QString::fromUtf16(text).toHtmlEscaped());
+        const QString line = QString::fromUtf16(text);
+        auto* item = new QListWidgetItem(line, List());
+        item->setToolTip("<span>" + line.toHtmlEscaped() + "</span>");
         return List()->count() - 1;
     }
 

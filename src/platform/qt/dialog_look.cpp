@@ -12,6 +12,7 @@ namespace {
 // Lengths are logical pixels with the unit "lp"; the colours are those of look.h.
 constexpr const char* sheet = R"(
 * { color: @ink; }
+QToolTip { font-size: 10lp; background: white; color: @ink; border: 1lp solid @edge; padding: 1lp; }
 QPushButton { background: @bar; border: 1lp solid @edge; border-radius: 3lp; padding: 0; }
 QPushButton:default, QPushButton:focus { border-color: @accent; }
 QPushButton:hover { background: @hover; }
