@@ -46,10 +46,10 @@ class Downloading : public PlayedBoard {
 protected:
     Downloading() {
         fs::create_directories(folder);
+        TakeShownChoosers();
     }
     ~Downloading() override {
         ForgetPlans();
-        TakeShownChoosers();
     }
     int Download(const std::string& link) {
         return ::Download(*handheld, link) ? 1 : 0;
