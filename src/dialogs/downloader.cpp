@@ -98,7 +98,7 @@ struct Connection {
 bool Open(Connection& connection, HWND dialog, const WCHAR* link) {
     connection.root = InternetOpenW(u"Example", INTERNET_OPEN_TYPE_DIRECT, nullptr, nullptr, 0);
     if (connection.root == nullptr) {
-        ShowLastError(dialog, u"InternetOpen Error");
+        ShowLastError(dialog, u"The network cannot be used");
         return false;
     }
     connection.link =

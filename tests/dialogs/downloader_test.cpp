@@ -149,7 +149,7 @@ TEST_F(Downloading, FailuresAreToldAndStoreNothing) {
     networkModuleName = usual;
     ExpectMessages({Error(u"InternetOpenUrl Error: 2ee6"), Error(u"InternetOpenUrl Error: 2efd"),
                     Error(u"InternetReadFile Error: 2eff"), noPuzzle,
-                    Error(u"InternetOpen Error: 7e")});
+                    Error(u"The network cannot be used: 7e")});
     EXPECT_EQ(Stored(), std::vector<fs::path>());
     EXPECT_TRUE(TakeShownChoosers().empty());
 }

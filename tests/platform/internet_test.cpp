@@ -310,7 +310,7 @@ TEST_F(Waiting, ShowsASignWhenItLasts) {
         }
     });
     EXPECT_FALSE(early);
-    EXPECT_EQ(late.size(), QSize(280, 88)) << "it follows the size of the window";
+    EXPECT_EQ(late.size(), QSize(344, 88)) << "it follows the size of the window";
     EXPECT_FALSE(SignIsShown());
 }
 

@@ -13,7 +13,7 @@ constexpr int frameMilliseconds = 100;
 constexpr int dots = 8;
 
 // On the handheld's screen, in logical pixels.
-constexpr int signWidth = 140;
+constexpr int signWidth = 172;
 constexpr int signHeight = 44;
 constexpr RECT signArea{(screenWidth - signWidth) / 2, (screenHeight - signHeight) / 2,
                         (screenWidth + signWidth) / 2, (screenHeight + signHeight) / 2};
