@@ -252,7 +252,7 @@ BOOL SetForegroundWindow(HWND window) {
     auto* plain =
         reinterpret_cast<HWND>(reinterpret_cast<std::uintptr_t>(window) & ~std::uintptr_t{1});
     if (plain == OtherInstance()) {
-        return AskOtherInstanceForward();
+        return TRUE;  // it came forward when it was found
     }
     if (!IsLiveWindow(plain)) {
         return FALSE;
