@@ -92,7 +92,6 @@ void Handheld::Settle() {
                 DispatchMessageW(&message);
             }
         }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();
     } while (MessagesWaiting());
 }

@@ -2,13 +2,13 @@
 //
 // Supported: what windows.h lists. Left out: message filters, thread messages, timers with a
 // procedure, WM_CHAR (letters arrive as virtual keys).
+#include <QtCore/QBasicTimer>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QThread>
-#include <QtCore/QTimer>
+#include <QtCore/QTimerEvent>
 #include <algorithm>
 #include <deque>
 #include <map>
-#include <memory>
 
 #include "platform/qt/host_window.h"
 #include "platform/qt/message_queue.h"
@@ -21,8 +21,37 @@ std::deque<QueuedMessage> queue;
 QueuedMessage current;
 int procedureDepth = 0;
 
-using TimerKey = std::pair<HWND, WPARAM>;
-std::map<TimerKey, std::unique_ptr<QTimer>> timers;
+// One object for all timers: none has to outlive the message in which it is killed.
+class Timers : public QObject {
+public:
+    using Key = std::pair<HWND, WPARAM>;
+
+    void Start(const Key& key, UINT milliseconds) {
+        running[key].start(static_cast<int>(milliseconds), Qt::PreciseTimer, this);
+    }
+    bool Stop(const Key& key) {
+        return running.erase(key) != 0;
+    }
+    void StopAllOf(HWND window) {
+        std::erase_if(running, [window](const auto& timer) { return timer.first.first == window; });
+    }
+
+protected:
+    void timerEvent(QTimerEvent* event) override {
+        const auto due = std::find_if(running.begin(), running.end(), [event](const auto& timer) {
+            return timer.second.timerId() == event->timerId();
+        });
+        if (due != running.end()) {
+            const auto [window, id] = due->first;
+            SendMessageW(window, WM_TIMER, id, 0);
+        }
+    }
+
+private:
+    std::map<Key, QBasicTimer> running;
+};
+
+Timers timers;
 
 LRESULT Call(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     ++procedureDepth;
@@ -63,7 +92,7 @@ bool InsideProcedure() {
 void DropMessagesOf(HWND window) {
     std::erase_if(queue,
                   [window](const QueuedMessage& queued) { return queued.message.hwnd == window; });
-    std::erase_if(timers, [window](const auto& timer) { return timer.first.first == window; });
+    timers.StopAllOf(window);
 }
 
 void DropInputOf(HWND window) {
@@ -145,24 +174,12 @@ WPARAM SetTimer(HWND window, WPARAM id, UINT milliseconds, void*) {
     if (!IsLiveWindow(window)) {
         return 0;
     }
-    auto timer = std::make_unique<QTimer>();
-    timer->setTimerType(Qt::PreciseTimer);
-    QObject::connect(timer.get(), &QTimer::timeout,
-                     [window, id] { SendMessageW(window, WM_TIMER, id, 0); });
-    timer->start(static_cast<int>(milliseconds));
-    timers[{window, id}] = std::move(timer);
+    timers.Start({window, id}, milliseconds);
     return id;
 }
 
 BOOL KillTimer(HWND window, WPARAM id) {
-    const auto found = timers.find({window, id});
-    if (found == timers.end()) {
-        return FALSE;
-    }
-    // The timer may be the one whose message is being handled.
-    found->second.release()->deleteLater();
-    timers.erase(found);
-    return TRUE;
+    return timers.Stop({window, id});
 }
 
 void Sleep(DWORD milliseconds) {
