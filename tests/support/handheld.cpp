@@ -79,6 +79,8 @@ void Handheld::Close() {
         Host().close();
         Settle();
     }
+    // The next run begins in this process, where nothing of this one may be left.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Handheld::Settle() {

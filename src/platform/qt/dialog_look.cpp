@@ -12,7 +12,7 @@ namespace {
 // Lengths are logical pixels with the unit "lp"; the colours are those of look.h.
 constexpr const char* sheet = R"(
 * { color: @ink; }
-QToolTip { font-size: 10lp; background: white; color: @ink; border: 1lp solid @edge; padding: 1lp; }
+QToolTip { font-family: "Liberation Sans"; font-size: 10lp; background: white; color: @ink; border: 1lp solid @edge; padding: 1lp; }
 QPushButton { background: @bar; border: 1lp solid @edge; border-radius: 3lp; padding: 0; }
 QPushButton:default, QPushButton:focus { border-color: @accent; }
 QPushButton:hover { background: @hover; }
@@ -22,11 +22,11 @@ QPushButton:focus { border-width: 2lp; }
 QGroupBox { border: 1lp solid @edge; border-radius: 3lp; margin-top: 6lp; }
 QGroupBox::title { subcontrol-origin: margin; left: 6lp; padding: 0 2lp; background: white; }
 
-QCheckBox, QRadioButton { spacing: 4lp; }
+QCheckBox, QRadioButton { spacing: 4lp; outline: 0; }
 QCheckBox::indicator, QRadioButton::indicator {
     width: 9lp; height: 9lp; border: 1lp solid @ink; background: white; }
 QCheckBox::indicator { border-radius: 2lp; }
-QRadioButton::indicator { width: 10lp; height: 10lp; border-radius: 6lp; }
+QRadioButton::indicator { width: 10lp; height: 10lp; border-radius: @round; }
 QCheckBox::indicator:focus, QRadioButton::indicator:focus { border-color: @accent; }
 QCheckBox:focus, QRadioButton:focus { color: @accent; }
 QCheckBox::indicator:pressed, QRadioButton::indicator:pressed { background: @pressed; }
@@ -61,11 +61,21 @@ QTabBar::tab:selected { background: white; border-color: @accent; color: @accent
 QTabBar::tab:selected:focus { background: @hover; }
 )";
 
-// At least one pixel, so that no border is lost.
+// At least one, so that no border is lost.
+int Pixels(int length, double magnification) {
+    return std::max(qRound(length * magnification), 1);
+}
+
+// A circle's radius is half its rounded side: where it is more, the toolkit draws a square.
+QString RadioButtonRadius(double magnification) {
+    const int side = Pixels(10, magnification) + 2 * Pixels(1, magnification);
+    return QString("%1px").arg(side / 2);
+}
+
 void SetLengths(QString& text, double magnification) {
     const QRegularExpression length("\\b(\\d+)lp\\b");
     for (auto found = length.match(text); found.hasMatch(); found = length.match(text)) {
-        const int pixels = std::max(qRound(found.captured(1).toInt() * magnification), 1);
+        const int pixels = Pixels(found.captured(1).toInt(), magnification);
         text.replace(found.capturedStart(), found.capturedLength(), QString("%1px").arg(pixels));
     }
 }
@@ -98,6 +108,7 @@ QString DialogStyleSheet(double magnification) {
     for (const auto& [name, color] : colors) {
         text.replace(name, color.name());
     }
+    text.replace("@round", RadioButtonRadius(magnification));
     SetLengths(text, magnification);
     return text;
 }

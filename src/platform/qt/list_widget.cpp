@@ -1,6 +1,7 @@
 #include "platform/qt/list_widget.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
 #include <algorithm>
 
@@ -50,10 +51,12 @@ void ListWidget::SetMeasures(int row, int width) {
     scheduleDelayedItemsLayout();
 }
 
-// On the way up, so that a slip of the stylus can still be put right.
+// On the way up, so that a slip of the stylus can still be put right: outside the list, nothing is
+// chosen.
 void ListWidget::mouseReleaseEvent(QMouseEvent* event) {
     QListWidget::mouseReleaseEvent(event);
-    QListWidgetItem* item = itemAt(event->position().toPoint());
+    const QPoint where = event->position().toPoint();
+    QListWidgetItem* item = viewport()->rect().contains(where) ? itemAt(where) : nullptr;
     if (event->button() == Qt::LeftButton && item != nullptr) {
         setCurrentItem(item);
         emit Chosen();
@@ -67,6 +70,11 @@ void ListWidget::keyPressEvent(QKeyEvent* event) {
         emit Chosen();
     } else if (chooses || event->key() == Qt::Key_Escape) {
         event->ignore();
+    } else if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        const int step = event->key() == Qt::Key_Left ? -rowHeight : rowHeight;
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + step);
+    } else if (event->key() == Qt::Key_End) {
+        setCurrentRow(count() - 1);
     } else {
         QListWidget::keyPressEvent(event);
     }
