@@ -1,3 +1,5 @@
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QScrollBar>
 #include <algorithm>
 
 #include "app/view.h"
@@ -135,6 +137,37 @@ TEST_F(ClueList, ArrowsOnlyMoveAndEnterOrSpaceTakesTheLine) {
         ExpectSelection(0, 4, across);
         SelectCell(1, 1, 0);
     }
+}
+
+TEST_F(ClueList, LiftingTheStylusOutsideTheListChoosesNothing) {
+    Start(manyNumbers);
+    Use([](OpenDialog& dialog) {
+        auto* list = qobject_cast<QListWidget*>(dialog.Widget(controlClues));
+        const QPointF line = list->visualItemRect(list->item(1)).center();
+        const QPointF hiddenLine = list->visualItemRect(list->item(list->count() - 1)).center();
+        const double middle = list->viewport()->height() / 2.0;
+        ASSERT_GT(hiddenLine.y(), list->viewport()->height());
+        for (QPointF place :
+             {hiddenLine, QPointF(-5, middle), QPointF(list->viewport()->width() + 5, middle)}) {
+            dialog.Drag(list->viewport(), line, place);
+            EXPECT_TRUE(dialog.IsOpen());
+        }
+    });
+    ExpectSelection(1, 1, across);
+}
+
+TEST_F(ClueList, KeysReachTheLastLineAndTheEndsOfLongLines) {
+    Start(manyNumbers);
+    Use([](OpenDialog& dialog) {
+        auto* list = qobject_cast<QListWidget*>(dialog.Widget(controlClues));
+        dialog.Press(Qt::Key_Right);
+        EXPECT_GT(list->horizontalScrollBar()->value(), 0);
+        dialog.Press(Qt::Key_Left);
+        EXPECT_EQ(list->horizontalScrollBar()->value(), 0);
+        EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
+        dialog.Press(Qt::Key_End);
+        EXPECT_EQ(dialog.SelectedLine(controlClues), list->count() - 1);
+    });
 }
 
 TEST_F(ClueList, NothingIsChosenByClosing) {

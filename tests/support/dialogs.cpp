@@ -82,9 +82,10 @@ QWidget* OpenDialog::Widget(int control) const {
     return widget;
 }
 
-void OpenDialog::Click(QWidget* widget, QPointF place) {
+void OpenDialog::Drag(QWidget* widget, QPointF from, QPointF to) {
     for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        const QPointF place = held == Qt::LeftButton ? from : to;
         QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton, held,
                           Qt::NoModifier);
         QCoreApplication::sendEvent(widget, &event);
@@ -100,6 +101,9 @@ void OpenDialog::Tap(int control) {
     Click(widget, QPointF(widget->height() / 2.0, widget->height() / 2.0));
 }
 
+void OpenDialog::Click(QWidget* widget, QPointF place) {
+    Drag(widget, place, place);
+}
 void OpenDialog::TapLine(int list, int line) {
     auto* widget = qobject_cast<QListWidget*>(Widget(list));
     ASSERT_LT(line, widget->count());

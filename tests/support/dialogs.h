@@ -39,6 +39,9 @@ public:
     // What the dialog itself has drawn, under its controls.
     QImage Drawn() const;
 
+    // The stylus touches one place of the widget and is lifted at another.
+    void Drag(QWidget* widget, QPointF from, QPointF to);
+
 private:
     void Click(QWidget* widget, QPointF place);
 

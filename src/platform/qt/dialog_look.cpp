@@ -19,6 +19,10 @@ QPushButton:hover { background: @hover; }
 QPushButton:pressed { background: @pressed; }
 QPushButton:focus { border-width: 2lp; }
 
+QMessageBox { background: white; }
+QMessageBox QPushButton { font-family: "Liberation Sans"; font-size: 10lp; min-width: 44lp;
+    min-height: 14lp; padding: 1lp 4lp; margin-left: 6lp; }
+
 QGroupBox { border: 1lp solid @edge; border-radius: 3lp; margin-top: 6lp; }
 QGroupBox::title { subcontrol-origin: margin; left: 6lp; padding: 0 2lp; background: white; }
 

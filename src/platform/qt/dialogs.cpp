@@ -3,38 +3,75 @@
 
 #include <QtGui/QScreen>
 #include <QtGui/QTextLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProxyStyle>
 #include <algorithm>
 
+#include "platform/qt/dialog_look.h"
 #include "platform/qt/host_window.h"
 #include "platform/qt/modal.h"
 #include "platform/qt/screen_layout.h"
 
 namespace {
 
+// Logical pixels.
+constexpr int margin = 8;
+constexpr int iconSide = 24;
+constexpr int iconGap = 4;
+
+int Magnified(int length) {
+    return qRound(length * Host().Magnification());
+}
+
 class BoxStyle : public QProxyStyle {
 public:
+    BoxStyle() : QProxyStyle("Fusion") {
+    }
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override {
-        constexpr double iconSide = 24;
-        return metric == PM_MessageBoxIconSize ? qRound(iconSide * Host().Magnification())
-                                               : QProxyStyle::pixelMetric(metric, option, widget);
+        switch (metric) {
+            case PM_MessageBoxIconSize: return Magnified(iconSide);
+            case PM_LayoutLeftMargin:
+            case PM_LayoutTopMargin:
+            case PM_LayoutRightMargin:
+            case PM_LayoutBottomMargin: return Magnified(margin);
+            case PM_LayoutHorizontalSpacing: return 0;
+            default: return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
     }
 };
+
+// The same look as in the program's own dialogs.
+void Dress(QMessageBox& box) {
+    static auto* style = new BoxStyle;
+    box.setStyle(style);
+    box.setPalette(DialogPalette());
+    box.setStyleSheet(DialogStyleSheet(Host().Magnification()));
+    // The toolkit indents the text by a width of its own.
+    if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
+        label->setContentsMargins(box.icon() == QMessageBox::NoIcon ? 0 : Magnified(iconGap), 0, 0,
+                                  0);
+        label->setIndent(0);
+    }
+}
 
 // A box is no wider than the game's screen, unless that leaves nothing to read. Beyond the limits
 // of the toolkit's box, it would break the lines again itself.
 int TextWidth(const QMessageBox& box) {
     constexpr int least = 230;
     constexpr int most = 500;
-    constexpr int margins = 34;
-    constexpr int iconGap = 20;
+    constexpr int toolkitsIndent = 8;
     const int widest = std::min(most, box.screen()->size().width() / 2);
-    const int width =
-        std::clamp(qRound(screenWidth * Host().Magnification()), least, std::max(widest, least));
-    const int icon = box.iconPixmap().deviceIndependentSize().toSize().width();
-    return width - margins - (icon == 0 ? 0 : icon + iconGap);
+    const int width = std::clamp(Magnified(screenWidth), least, std::max(widest, least));
+    const int icon = box.icon() == QMessageBox::NoIcon ? 0 : Magnified(iconSide + iconGap);
+    return width - 2 * Magnified(margin) - toolkitsIndent - icon;
 }
 
 // The toolkit breaks lines only where the desktop is too small for them.
@@ -67,15 +104,14 @@ QMessageBox::Icon IconOf(UINT style) {
 }  // namespace
 
 int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
-    static auto* boxStyle = new BoxStyle;
     const bool question = (style & MB_YESNO) != 0;
     // Before the screen is shown, the middle of the host's screen is the place for a box.
     QMessageBox box(Host().isVisible() ? &Host() : nullptr);
-    box.setStyle(boxStyle);
     box.setWindowTitle(QString::fromUtf16(title));
     // Titles of puzzles and file names come from elsewhere and are never markup.
     box.setTextFormat(Qt::PlainText);
     box.setIcon(IconOf(style));
+    Dress(box);
     box.setText(BreakLines(QString::fromUtf16(text), ModalFont(), TextWidth(box)));
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     // A stray Enter must not clear a puzzle, and no style bit tells the harmless questions.
