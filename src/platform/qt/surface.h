@@ -64,6 +64,7 @@ private:
     void Render();
     void RenderNewMarks(QPainter& painter);
     void RenderChanges(QPainter& painter);
+    void RenderArea(QPainter& painter, const RECT& area);
 
     Scale scale;
     std::shared_ptr<Picture> picture;
