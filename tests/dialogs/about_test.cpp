@@ -35,9 +35,23 @@ std::vector<int> Pieces() {
     return {LogoPieces[0], LogoPieces[1], LogoPieces[2]};
 }
 
-// Whether the areas of the two pictures show the same.
-void ExpectSame(const QImage& one, const QImage& other, const QRect& area) {
-    EXPECT_EQ(one.copy(area), other.copy(area)) << area.x() << ", " << area.y();
+// What is drawn in the area of the frame stays where it is in the picture, which may add to it. The
+// edges of curves may differ by a trace.
+void ExpectKept(const QImage& frame, const QImage& picture, const QRect& area) {
+    constexpr int trace = 4;
+    int drawn = 0;
+    int changed = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QRgb before = frame.pixel(x, y);
+            if (before != qRgb(255, 255, 255)) {
+                ++drawn;
+                changed += std::abs(qGray(before) - qGray(picture.pixel(x, y))) > trace;
+            }
+        }
+    }
+    EXPECT_GT(drawn, 200) << area.x() << ", " << area.y();
+    EXPECT_EQ(changed, 0) << area.x() << ", " << area.y();
 }
 
 TEST_F(About, ThePiecesSlideToWhereTheLogoOfThePictureIs) {
@@ -52,9 +66,9 @@ TEST_F(About, ThePiecesSlideToWhereTheLogoOfThePictureIs) {
         Tick();
         EXPECT_EQ(AboutAnimating, 0);
         const QImage picture = dialog.Drawn();
-        ExpectSame(lastFrame, picture, {22, 102, 62, 91});
-        ExpectSame(lastFrame, picture, {102, 72, 64, 84});
-        ExpectSame(lastFrame, picture, {192, 102, 27, 84});
+        ExpectKept(lastFrame, picture, {22, 102, 62, 91});
+        ExpectKept(lastFrame, picture, {102, 72, 64, 84});
+        ExpectKept(lastFrame, picture, {192, 102, 27, 84});
     });
 }
 
