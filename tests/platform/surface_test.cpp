@@ -185,6 +185,30 @@ TEST_P(Surfaces, RememberAllThatCanBeSeenAtAnotherRatio) {
     }
 }
 
+// Before anybody asks for pixels, the first frame is painted from the marks, copies among them.
+TEST_P(Surfaces, PaintTheirFirstFrameAsTheirPixelsAre) {
+    constexpr QPoint place(7, 5);
+    std::mt19937 random(GetParam() + 2000);
+    MarkMaker maker(random);
+    Surface::SetRatioOfAll(GetParam() % 2 == 0 ? 3 : 1.37);
+    for (int i = 0; i < 30; ++i) {
+        Draw(maker.Any());
+        DrawOnOther(maker.Any());
+        if (maker.Below(6) == 0) {
+            CopyOther(maker.Area(), {maker.Below(30) - 10, maker.Below(30) - 10});
+        }
+    }
+    const QSize size = plain.Image(surface.PresentScale()).size();
+    QImage frame(size + QSize(20, 20), QImage::Format_RGB32);
+    QPainter painter(&frame);
+    painter.setClipRect(QRect(place, size));
+    painter.translate(place);
+    surface.Paint(painter);
+    painter.end();
+    EXPECT_TRUE(IsRight());
+    EXPECT_EQ(frame.copy(QRect(place, size)), surface.Image());
+}
+
 INSTANTIATE_TEST_SUITE_P(Seeds, Surfaces, testing::Range(1u, 9u));
 
 TEST_F(ResizedSurface, KeepsItsContentAndIsWhiteWhereItIsNew) {

@@ -30,14 +30,11 @@ void ClientView::ShowArea(const RECT& area) {
 }
 
 void ClientView::paintEvent(QPaintEvent* event) {
-    const QImage& image = window->surface->Image();
-    // Shares the pixels: a copy of the image itself would detach when it learns its ratio.
-    QImage shown(const_cast<uchar*>(image.constBits()), image.width(), image.height(),
-                 image.bytesPerLine(), image.format());
-    shown.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.drawImage(host->ExactPlace(window->frame).topLeft() - QPointF(pos()), shown);
+    painter.translate(host->ExactPlace(window->frame).topLeft() - QPointF(pos()));
+    painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    window->surface->Paint(painter);
     host->FinishStart();
 }
 

@@ -117,6 +117,7 @@ void HostWindow::FinishStart() {
         QTimer::singleShot(0, this, [this, icon] {
             QApplication::setWindowIcon(ToQIcon(icon));
             menuBar->NameButtons();
+            Surface::RenderAll();
         });
     }
 }

@@ -7,6 +7,20 @@
 
 namespace {
 
+// In device pixels.
+struct CopyPlace {
+    CopyPlace(const Scale& scale, const RECT& area, QSize sourceSize, POINT source)
+        : target(scale.Area(area)) {
+        const QRect wanted(QPoint(scale.At(source.x), scale.At(source.y)), target.size());
+        from = wanted & QRect(QPoint(), sourceSize);
+        usable = from.translated(target.topLeft() - wanted.topLeft());
+    }
+
+    QRect target;
+    QRect usable;  // the part of the target for which the source has pixels
+    QRect from;    // where they are in the source
+};
+
 class MarkPainter {
 public:
     MarkPainter(QPainter& to, const Scale& at) : painter(to), scale(at) {
@@ -98,14 +112,20 @@ void MarkPainter::operator()(const LineMark& mark) const {
     painter.fillRect(QRect(first, last), QColor::fromRgb(mark.color));
 }
 
+// Straight from the source's marks: pixels of it may not exist at this ratio.
 void MarkPainter::operator()(const CopyMark& mark) const {
     const QSize size = mark.picture->size;
-    QImage source(scale.At(size.width()), scale.At(size.height()), QImage::Format_RGB32);
-    source.fill(Qt::white);
-    QPainter sourcePainter(&source);
-    PaintPicture(sourcePainter, scale, *mark.picture);
-    sourcePainter.end();
-    CopyPixels(painter, scale, mark.area, source, mark.source);
+    const CopyPlace place(scale, mark.area, QSize(scale.At(size.width()), scale.At(size.height())),
+                          mark.source);
+    painter.save();
+    painter.setClipRect(place.target, Qt::IntersectClip);
+    if (place.usable != place.target || NeedsGround(*mark.picture)) {
+        painter.fillRect(place.target, Qt::white);
+    }
+    painter.setClipRect(place.usable, Qt::IntersectClip);
+    painter.translate(place.usable.topLeft() - place.from.topLeft());
+    PaintPicture(painter, scale, *mark.picture);
+    painter.restore();
 }
 
 }  // namespace
@@ -122,13 +142,11 @@ void PaintPicture(QPainter& painter, const Scale& scale, const Picture& picture)
 
 void CopyPixels(QPainter& painter, const Scale& scale, const RECT& area, const QImage& from,
                 POINT source) {
-    const QRect target = scale.Area(area);
-    const QRect wanted(QPoint(scale.At(source.x), scale.At(source.y)), target.size());
-    const QRect usable = wanted & from.rect();
-    if (usable != wanted) {
-        painter.fillRect(target, Qt::white);
+    const CopyPlace place(scale, area, from.size(), source);
+    if (place.usable != place.target) {
+        painter.fillRect(place.target, Qt::white);
     }
-    if (!usable.isEmpty()) {
-        painter.drawImage(target.topLeft() + usable.topLeft() - wanted.topLeft(), from, usable);
+    if (!place.usable.isEmpty()) {
+        painter.drawImage(place.usable.topLeft(), from, place.from);
     }
 }

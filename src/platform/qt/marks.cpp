@@ -47,3 +47,12 @@ RECT HiddenArea(const Mark& mark) {
 const RECT& TouchedArea(const Mark& mark) {
     return std::visit(TouchedAreaOf{}, mark);
 }
+
+RECT WholeArea(const Picture& picture) {
+    return {0, 0, picture.size.width(), picture.size.height()};
+}
+
+bool NeedsGround(const Picture& picture) {
+    return picture.marks.empty() ||
+           !Contains(HiddenArea(picture.marks.front()), WholeArea(picture));
+}

@@ -75,6 +75,10 @@ RECT HiddenArea(const Mark& mark);
 // A rectangle that holds all pixels the mark can touch.
 const RECT& TouchedArea(const Mark& mark);
 
+RECT WholeArea(const Picture& picture);
+// Whether white ground may be seen: not when the picture begins by covering everything.
+bool NeedsGround(const Picture& picture);
+
 inline bool Contains(const RECT& outer, const RECT& inner) {
     return outer.left <= inner.left && outer.top <= inner.top && outer.right >= inner.right &&
            outer.bottom >= inner.bottom;

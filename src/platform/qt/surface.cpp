@@ -16,10 +16,6 @@ constexpr size_t fewMarks = 256;
 
 constexpr QRgb white = qRgb(255, 255, 255);
 
-RECT WholeArea(QSize size) {
-    return {0, 0, size.width(), size.height()};
-}
-
 QSize UsableSize(int width, int height) {
     return {std::max(width, 1), std::max(height, 1)};
 }
@@ -43,8 +39,12 @@ void Surface::Draw(Mark mark) {
     Remember(std::move(mark));
 }
 
-// Copied at once: the source may be drawn on before this surface is looked at.
+// Copied at once, so that no later look at this surface has to paint the source's marks.
 void Surface::Copy(const RECT& area, Surface& from, POINT source) {
+    if (!pixelsWanted && !from.pixelsWanted) {
+        Remember(CopyMark{area, source, from.picture});
+        return;
+    }
     Render();
     const QImage& pixels = from.Image();
     {
@@ -60,7 +60,7 @@ void Surface::Copy(const RECT& area, Surface& from, POINT source) {
 }
 
 void Surface::Remember(Mark mark) {
-    if (Contains(HiddenArea(mark), WholeArea(picture->size))) {
+    if (Contains(HiddenArea(mark), WholeArea(*picture))) {
         StartPicture({});
         marksWorthDropping = fewMarks;
         changes.Restart();
@@ -118,14 +118,31 @@ const QImage& Surface::Image() {
     return image;
 }
 
+void Surface::Paint(QPainter& painter) {
+    if (pixelsWanted) {
+        painter.drawImage(0, 0, Image());
+        return;
+    }
+    if (NeedsGround(*picture)) {
+        painter.fillRect(scale.Area(WholeArea(*picture)), Qt::white);
+    }
+    PaintPicture(painter, scale, *picture);
+    pixelsWanted = true;
+}
+
+void Surface::RenderAll() {
+    for (Surface* surface : surfaces) {
+        surface->Render();
+    }
+}
+
 void Surface::Render() {
     const QSize size = picture->size;
+    pixelsWanted = true;
     if (image.isNull()) {
         image = QImage(std::max(scale.At(size.width()), 1), std::max(scale.At(size.height()), 1),
                        QImage::Format_RGB32);
-        // A picture that begins by covering everything needs no ground.
-        if (picture->marks.empty() ||
-            !Contains(HiddenArea(picture->marks.front()), WholeArea(size))) {
+        if (NeedsGround(*picture)) {
             image.fill(Qt::white);
         }
     } else if (!startedAnew && renderedMarks == picture->marks.size()) {

@@ -48,6 +48,11 @@ public:
 
     // The pixels with all that was drawn. Valid until the next call that draws.
     const QImage& Image();
+    // Paints the same; the first time straight from the marks, which is the quicker way to a frame
+    // when there are no pixels yet. The painter's unit is a device pixel.
+    void Paint(QPainter& painter);
+    // Gives every surface its pixels, so that nothing later has to wait for them.
+    static void RenderAll();
 
     // Content outside the new size is lost; what is new is white.
     void Resize(int width, int height);
@@ -73,5 +78,6 @@ private:
     // Marks that are in the image already; meaningless while the picture has been started anew.
     size_t renderedMarks = 0;
     bool startedAnew = true;
+    bool pixelsWanted = false;
     QImage image;
 };
