@@ -1,6 +1,8 @@
 // Message boxes: the toolkit's own, sized with the screen.
 #include "platform/dialogs.h"
 
+#include <QtGui/QIcon>
+#include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QLabel>
@@ -10,6 +12,7 @@
 
 #include "platform/qt/dialog_look.h"
 #include "platform/qt/host_window.h"
+#include "platform/qt/look.h"
 #include "platform/qt/modal.h"
 #include "platform/qt/screen_layout.h"
 
@@ -22,6 +25,25 @@ constexpr int iconGap = 4;
 
 int Magnified(int length) {
     return qRound(length * Host().Magnification());
+}
+
+// The toolkit's own icons come in a few sizes, the largest too small for a large screen.
+QIcon Badge(const QString& sign) {
+    const double ratio = Host().devicePixelRatioF();
+    const int side = qRound(Magnified(iconSide) * ratio);
+    QPixmap badge(side, side);
+    badge.fill(Qt::transparent);
+    badge.setDevicePixelRatio(ratio);
+    const QRectF area(0, 0, side / ratio, side / ratio);
+    QPainter painter(&badge);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(titleBarColor);
+    painter.drawEllipse(area);
+    painter.setPen(titleTextColor);
+    painter.setFont(BarFont(area.height() * 0.72, true));
+    painter.drawText(area, Qt::AlignCenter, sign);
+    return badge;
 }
 
 class BoxStyle : public QProxyStyle {
@@ -38,6 +60,14 @@ public:
             case PM_LayoutBottomMargin: return Magnified(margin);
             case PM_LayoutHorizontalSpacing: return 0;
             default: return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        switch (icon) {
+            case SP_MessageBoxQuestion: return Badge("?");
+            case SP_MessageBoxInformation: return Badge("i");
+            default: return QProxyStyle::standardIcon(icon, option, widget);
         }
     }
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

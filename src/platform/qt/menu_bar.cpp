@@ -3,6 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QToolTip>
 #include <algorithm>
 
 #include "platform/qt/art.h"
@@ -79,6 +80,28 @@ void BarButton::HandToProgram(QKeyEvent* event) {
     if (QWidget* focus = host->focusWidget(); focus != this) {
         QCoreApplication::sendEvent(focus, event);
     }
+}
+
+bool BarButton::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        ShowTip();
+        return true;
+    }
+    return QAbstractButton::event(event);
+}
+
+// As large as the handheld's other texts, and above the bar: below the stylus it would cover the
+// picture that it explains.
+void BarButton::ShowTip() {
+    constexpr int pointerHeight = 24;  // by which the toolkit moves a tip down
+    const QFont font = BarFont(10 * host->Magnification(), false);
+    const int height = QFontMetrics(font).height() + qRound(6 * host->Magnification());
+    QToolTip::setFont(font);
+    QPalette colors;
+    colors.setColor(QPalette::ToolTipBase, Qt::white);
+    colors.setColor(QPalette::ToolTipText, inkColor);
+    QToolTip::setPalette(colors);
+    QToolTip::showText(mapToGlobal(QPoint(0, -height - pointerHeight)), toolTip(), this, rect());
 }
 
 void BarButton::enterEvent(QEnterEvent*) {

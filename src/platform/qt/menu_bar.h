@@ -21,6 +21,7 @@ public:
     }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
@@ -28,6 +29,7 @@ protected:
 
 private:
     void HandToProgram(QKeyEvent* event);
+    void ShowTip();
 
     HostWindow* host;
     const ArtResource* art;
