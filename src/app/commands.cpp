@@ -106,10 +106,11 @@ void ShowAboutAnew(HWND window) {
     ShowAbout(window);
 }
 
+// A stray Enter must not cost a puzzle's letters.
 void ClearPuzzleIfSure(HWND window) {
     const int answer =
         MessageBoxW(window, u"Do you want to clear the puzzle ? This cannot be undone.",
-                    u"Are You Sure?", MB_YESNO | MB_ICONQUESTION);
+                    u"Are You Sure?", MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2);
     if (answer == IDYES) {
         ChangeGrid(window, ClearPuzzle);
     }

@@ -8,13 +8,15 @@ constexpr UINT MB_OK = 0;
 constexpr UINT MB_YESNO = 4;
 constexpr UINT MB_ICONQUESTION = 32;
 constexpr UINT MB_ICONINFORMATION = 64;
+constexpr UINT MB_DEFBUTTON2 = 256;
 
 constexpr int IDOK = 1;
 constexpr int IDCANCEL = 2;
 constexpr int IDYES = 6;
 constexpr int IDNO = 7;
 
-// Modal. Escape and closing the box answer IDOK for MB_OK and IDNO for MB_YESNO.
+// Modal. Escape and closing the box answer IDOK for MB_OK and IDNO for MB_YESNO; Enter answers
+// IDYES for MB_YESNO, and IDNO with MB_DEFBUTTON2.
 int MessageBoxW(HWND owner, const WCHAR* text, const WCHAR* title, UINT style);
 
 // Answers a message with something other than 0, or leaves it to the dialog itself with 0.
@@ -34,8 +36,8 @@ constexpr UINT WM_CTLCOLORSTATIC = 312;
 // gets the focus unless WM_INITDIALOG gives it to another.
 LRESULT DialogBoxIndirectParamW(HINSTANCE instance, HGLOBAL resource, HWND owner, DLGPROC procedure,
                                 LPARAM parameter);
-// Hides the dialog, which is gone when its procedure has returned. FALSE for what is no open dialog.
-// Takes the handle of the colour chooser's hook, too.
+// Hides the dialog, which is gone when its procedure has returned. FALSE for what is no open
+// dialog. Takes the handle of the colour chooser's hook, too.
 BOOL EndDialog(HWND dialog, LRESULT result);
 
 // Null when the dialog has no such control.

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <algorithm>
 #include <functional>
@@ -118,6 +120,21 @@ TEST_F(Commands, ClearPuzzleAsksAndOnlyYesClears) {
             EXPECT_EQ(handheld->Client(), spoilt) << "No repaints nothing";
         }
     }
+}
+
+TEST_F(Commands, AStrayEnterClearsNoPuzzle) {
+    PlaySpoilt(mediumSize);
+    const std::string letters = PlayerLetters();
+    DoDuringNextMessageBox([] {
+        const QPointer<QWidget> box = QApplication::activeModalWidget();
+        SendKey(box->focusWidget(), Qt::Key_Return);
+        while (box != nullptr && box->isVisible()) {
+            QCoreApplication::processEvents();
+        }
+    });
+    Choose({"Clear", "Puzzle"});
+    EXPECT_EQ(TakeShownMessages().size(), 1u);
+    EXPECT_EQ(PlayerLetters(), letters);
 }
 
 // Faults: a size that is already chosen does nothing, the selection or the scroll stays, a

@@ -144,8 +144,9 @@ int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     Dress(box);
     box.setText(BreakLines(QString::fromUtf16(text), ModalFont(), TextWidth(box)));
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    // A stray Enter must not clear a puzzle, and no style bit tells the harmless questions.
-    box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
+    if (question) {
+        box.setDefaultButton((style & MB_DEFBUTTON2) != 0 ? QMessageBox::No : QMessageBox::Yes);
+    }
     const int answer = RunModal(box);
     if (!question) {
         return IDOK;
