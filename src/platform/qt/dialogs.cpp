@@ -9,6 +9,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProxyStyle>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/qt/dialog_look.h"
 #include "platform/qt/host_window.h"
@@ -84,31 +85,35 @@ void Dress(QMessageBox& box) {
     box.setStyle(style);
     box.setPalette(DialogPalette());
     box.setStyleSheet(DialogStyleSheet(Host().Magnification()));
-    // The toolkit indents the text by a width of its own.
-    if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
-        label->setContentsMargins(box.icon() == QMessageBox::NoIcon ? 0 : Magnified(iconGap), 0, 0,
-                                  0);
-        label->setIndent(0);
-    }
 }
 
-// A box is no wider than the game's screen, unless that leaves nothing to read. Beyond the limits
-// of the toolkit's box, it would break the lines again itself.
+// What the toolkit lets a box have of the desktop.
+int WidestBox(int desktop) {
+    constexpr int smallDesktop = 1024;
+    return desktop <= smallDesktop ? desktop : std::min(desktop - 480, 1000);
+}
+
+// A box is no wider than the game's screen, unless that leaves nothing to read.
 int TextWidth(const QMessageBox& box) {
     constexpr int least = 230;
-    constexpr int most = 500;
     constexpr int toolkitsIndent = 8;
-    const int widest = std::min(most, box.screen()->size().width() / 2);
-    const int width = std::clamp(Magnified(screenWidth), least, std::max(widest, least));
+    const int widest = std::max(WidestBox(box.screen()->size().width()), least);
+    const int width = std::clamp(Magnified(screenWidth), least, widest);
     const int icon = box.icon() == QMessageBox::NoIcon ? 0 : Magnified(iconSide + iconGap);
     return width - 2 * Magnified(margin) - toolkitsIndent - icon;
 }
 
+struct BrokenText {
+    QString text;
+    double width = 0;  // of its longest line
+};
+
 // The toolkit breaks lines only where the desktop is too small for them.
-QString BreakLines(const QString& text, const QFont& font, double width) {
+BrokenText BreakLines(const QString& text, const QFont& font, double width) {
     QTextOption anywhereIfNeeded;
     anywhereIfNeeded.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    QStringList broken;
+    BrokenText broken;
+    QStringList paragraphs;
     for (const QString& paragraph : text.split('\n')) {
         QTextLayout layout(paragraph, font);
         layout.setTextOption(anywhereIfNeeded);
@@ -117,11 +122,25 @@ QString BreakLines(const QString& text, const QFont& font, double width) {
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(width);
             lines << paragraph.mid(line.textStart(), line.textLength());
+            broken.width = std::max(broken.width, line.naturalTextWidth());
         }
         layout.endLayout();
-        broken << lines.join(QChar(QChar::LineSeparator));
+        paragraphs << lines.join(QChar(QChar::LineSeparator));
     }
-    return broken.join('\n');
+    broken.text = paragraphs.join('\n');
+    return broken;
+}
+
+// The toolkit indents the text by a width of its own, and breaks it again in a box of 500 pixels.
+void SetText(QMessageBox& box, const QString& text) {
+    const BrokenText broken = BreakLines(text, ModalFont(), TextWidth(box));
+    box.setText(broken.text);
+    if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
+        const int gap = box.icon() == QMessageBox::NoIcon ? 0 : Magnified(iconGap);
+        label->setContentsMargins(gap, 0, 0, 0);
+        label->setIndent(0);
+        label->setMinimumWidth(gap + static_cast<int>(std::ceil(broken.width)));
+    }
 }
 
 QMessageBox::Icon IconOf(UINT style) {
@@ -142,7 +161,7 @@ int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     box.setTextFormat(Qt::PlainText);
     box.setIcon(IconOf(style));
     Dress(box);
-    box.setText(BreakLines(QString::fromUtf16(text), ModalFont(), TextWidth(box)));
+    SetText(box, QString::fromUtf16(text));
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     if (question) {
         box.setDefaultButton((style & MB_DEFBUTTON2) != 0 ? QMessageBox::No : QMessageBox::Yes);

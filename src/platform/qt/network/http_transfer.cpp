@@ -4,8 +4,8 @@
 // way get mixed, and a length or encoding may be another answer's.
 //
 // The stack itself does not always notice that a connection breaks too early, so the announced
-// length, or the end of a compressed answer, is looked for here. What is left out: an uncompressed
-// answer in chunks that breaks off may look whole.
+// length, or the end of a compressed answer, is looked for here. For an uncompressed answer in
+// chunks there is only what the stack notices.
 #include <QtCore/QUrl>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkProxy>
