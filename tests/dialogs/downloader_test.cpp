@@ -226,7 +226,7 @@ TEST_F(Downloading, TheChooserAddsTheExtensionThenAsksBeforeItReplaces) {
     EXPECT_EQ(choosers[1].name, "mine.puz") << "the name stays to be changed";
     EXPECT_EQ(ReadBytes(folder / "mine.puz"), "old");
 
-    ChooseNextFile("mine");
+    ChooseNextFile("mine.");
     AnswerNextMessageBox(IDYES);
     AnswerNextMessageBox(IDYES);
     EXPECT_EQ(Download("/a.puz", {{Page(puzzle)}}), 1);

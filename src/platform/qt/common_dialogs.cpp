@@ -118,7 +118,12 @@ bool ChooseToSave(const OPENFILENAMEW& request, QString& chosen) {
     if (nameStart < chosen.size()) {
         dialog.selectFile(chosen.mid(nameStart));
     }
-    return Run(dialog, chosen);
+    const bool accepted = Run(dialog, chosen);
+    // For the toolkit, a name that ends with a dot has an extension.
+    if (accepted && chosen.endsWith('.')) {
+        chosen += dialog.defaultSuffix();
+    }
+    return accepted;
 }
 
 void ExplainName(const OPENFILENAMEW& request, const std::u16string& advice) {
