@@ -113,16 +113,6 @@ TEST_F(ClueList, TheChosenWordIsShownAtOnceAndScrolledTo) {
     EXPECT_EQ(handheld->Client(), shown);
 }
 
-TEST_F(ClueList, TheSecondTapOfADoubleTapDoesNotReachTheBoard) {
-    Start(squareBoard);
-    handheld->TapCell(0, 0);
-    Use([](OpenDialog& dialog) { dialog.TapLine(controlClues, 1); });
-    handheld->SecondTapOnCell(3, 3);
-    ExpectSelection(0, 4, across);
-    handheld->DoubleTapCell(3, 3);
-    ExpectSelection(3, 3, down);
-}
-
 TEST_F(ClueList, ArrowsOnlyMoveAndEnterOrSpaceTakesTheLine) {
     Start(squareBoard);
     for (int key : {int(Qt::Key_Return), int(Qt::Key_Space)}) {

@@ -113,11 +113,6 @@ void Handheld::DoubleTapCell(int row, int col) {
     const POINT middle = MiddleOfCell(row, col);
     SendPress(middle);
     SendRelease(middle);
-    SecondTapOnCell(row, col);
-}
-
-void Handheld::SecondTapOnCell(int row, int col) {
-    const POINT middle = MiddleOfCell(row, col);
     SendMouse(QEvent::MouseButtonDblClick, middle, Qt::LeftButton, Qt::LeftButton);
     SendRelease(middle);
     Settle();

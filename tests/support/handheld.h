@@ -25,8 +25,6 @@ public:
     void TapCell(int row, int col);
     // Two taps as quick as a host's double click.
     void DoubleTapCell(int row, int col);
-    // The second half of a host's double click, whose first half was elsewhere.
-    void SecondTapOnCell(int row, int col);
     void Hold(int x, int y);
     void RightClick(int x, int y);
     void Drag(POINT from, POINT to);

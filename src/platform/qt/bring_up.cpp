@@ -3,6 +3,7 @@
 #include "platform/qt/endings.h"
 #include "platform/qt/first_start.h"
 #include "platform/qt/font_warm_up.h"
+#include "platform/qt/tap_guard.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 
@@ -17,6 +18,7 @@ std::unique_ptr<QApplication> BringHandheldUp(int& argumentCount, char** argumen
     QApplication::setApplicationName("Quadrel");
     QApplication::setDesktopFileName("quadrel");
     QApplication::setQuitOnLastWindowClosed(false);
+    GuardTaps();
     return application;
 }
 

@@ -51,11 +51,9 @@ void ClientView::mousePressEvent(QMouseEvent* event) {
     }
 }
 
-// The second press of a quick pair is a tap like any other, unless the first one closed a dialog.
+// The second press of a quick pair is a tap like any other.
 void ClientView::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (PressedBefore()) {
-        mousePressEvent(event);
-    }
+    mousePressEvent(event);
 }
 
 void ClientView::mouseMoveEvent(QMouseEvent* event) {

@@ -12,6 +12,7 @@
 #include "platform/qt/host_window.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menu_object.h"
+#include "platform/qt/tap_guard.h"
 #include "platform/windows.h"
 
 namespace {
@@ -85,6 +86,7 @@ void AddCommand(QMenu* popup, MenuItem& item, const MenuObject* root) {
     item.action->setChecked(item.checked);
     const int command = item.resource->command;
     QObject::connect(item.action, &QAction::triggered, popup, [root, command] {
+        GroundChanged();
         PostMessageW(root->owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
     });
 }

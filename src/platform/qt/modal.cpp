@@ -5,6 +5,7 @@
 #include "platform/qt/endings.h"
 #include "platform/qt/host_window.h"
 #include "platform/qt/look.h"
+#include "platform/qt/tap_guard.h"
 
 QFont ModalFont() {
     constexpr double em = 10;
@@ -16,5 +17,8 @@ int RunModal(QDialog& dialog) {
         return QDialog::Rejected;
     }
     dialog.setFont(ModalFont());
-    return dialog.exec();
+    GroundChanged();
+    const int result = dialog.exec();
+    GroundChanged();
+    return result;
 }

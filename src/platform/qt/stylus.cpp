@@ -21,7 +21,6 @@ struct Stylus {
     bool down = false;
     bool moved = false;  // beyond the tolerance since the press
     bool swallowRelease = false;
-    bool pressedBefore = false;
     POINT pressed;
     QElapsedTimer sincePress;
     QEventLoop* watch = nullptr;  // runs while a gesture is being recognised
@@ -48,7 +47,6 @@ bool Beyond(POINT one, POINT other) {
 }  // namespace
 
 void StylusPressed(HWND window, POINT point, bool heldAtOnce) {
-    stylus.pressedBefore = true;
     if (!heldAtOnce) {
         stylus.down = true;
         stylus.moved = false;
@@ -57,14 +55,6 @@ void StylusPressed(HWND window, POINT point, bool heldAtOnce) {
         stylus.sincePress.start();
     }
     Queue(window, WM_LBUTTONDOWN, point, heldAtOnce);
-}
-
-bool PressedBefore() {
-    return stylus.pressedBefore;
-}
-
-void ForgetPresses() {
-    stylus.pressedBefore = false;
 }
 
 void StylusMoved(HWND window, POINT point) {

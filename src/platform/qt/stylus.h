@@ -8,8 +8,3 @@
 void StylusPressed(HWND window, POINT point, bool heldAtOnce);
 void StylusMoved(HWND window, POINT point);
 void StylusReleased(HWND window, POINT point);
-
-// Whether the window on top has been pressed at all since it came there: the second tap of a quick
-// pair may find another window than the first.
-bool PressedBefore();
-void ForgetPresses();

@@ -17,7 +17,7 @@
 #include "platform/qt/message_queue.h"
 #include "platform/qt/screen_layout.h"
 #include "platform/qt/single_instance.h"
-#include "platform/qt/stylus.h"
+#include "platform/qt/tap_guard.h"
 #include "platform/qt/window.h"
 #include "platform/shell.h"
 
@@ -81,7 +81,7 @@ void PutOnTop(HWND window, const RECT& frame, ClientView* view) {
     window->widget = view;
     window->toldPanelUp = Host().PanelUp();
     windows.push_back(window);
-    ForgetPresses();
+    GroundChanged();
     Host().AddView(view);
     Host().ShowTitle(window->title);
 }
@@ -91,7 +91,7 @@ void ReturnToTopWindow() {
     if (window == nullptr) {
         return;
     }
-    ForgetPresses();
+    GroundChanged();
     Host().ShowTitle(window->title);
     if (window->toldPanelUp != Host().PanelUp()) {
         TellPanelChange(window);
