@@ -68,10 +68,10 @@ TEST_F(TapGuard, TheSecondTapOfAPairNeverReachesNewGround) {
     const int direction = Direction;
     ShowBox();
     WaitForEyes();
-    Tap(beside, 1390);
-    Tap(first, 1700);
+    Tap(beside, 1490);
+    Tap(first, 1950);
     EXPECT_EQ(Direction, direction);
-    Tap(first, 2200);
+    Tap(first, 2500);
     EXPECT_NE(Direction, direction);
 }
 

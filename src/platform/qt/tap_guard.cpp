@@ -2,7 +2,6 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtGui/QMouseEvent>
-#include <QtGui/QStyleHints>
 #include <QtWidgets/QApplication>
 
 #include "platform/qt/host_window.h"
@@ -11,6 +10,8 @@ namespace {
 
 // Less than anybody needs to see what opened and to tap it.
 constexpr qint64 blinkMilliseconds = 200;
+// A child's double tap is slower than what the toolkit takes for a double click.
+constexpr quint64 pairMilliseconds = 500;
 // How far apart a finger sets the two taps of a pair. Logical pixels.
 constexpr double pairDistance = 12;
 
@@ -53,9 +54,8 @@ private:
     }
 
     bool IsPair(const QMouseEvent& press) const {
-        const auto interval = static_cast<quint64>(QApplication::doubleClickInterval());
         const QPointF way = press.globalPosition() - last.place;
-        return press.timestamp() - last.time <= interval &&
+        return press.timestamp() - last.time <= pairMilliseconds &&
                way.manhattanLength() <= pairDistance * Host().Magnification();
     }
 
