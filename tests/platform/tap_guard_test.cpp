@@ -69,6 +69,7 @@ TEST_F(TapGuard, TheSecondTapOfAPairNeverReachesNewGround) {
     ShowBox();
     WaitForEyes();
     Tap(beside, 1490);
+    EXPECT_EQ(Direction, direction);
     Tap(first, 1950);
     EXPECT_EQ(Direction, direction);
     Tap(first, 2500);
