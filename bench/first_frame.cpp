@@ -1,9 +1,8 @@
 // The game's own start, ended right after its first frame; start_time measures it beside an empty
 // window.
 #include <QtCore/QEvent>
-#include <QtCore/QTimer>
-#include <cstdlib>
 
+#include "frame_end.h"
 #include "platform/qt/bring_up.h"
 #include "platform/qt/client_view.h"
 
@@ -13,8 +12,7 @@ class FrameWatcher : public QObject {
 public:
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Paint && qobject_cast<ClientView*>(object) != nullptr) {
-            // At once, so that no clean-up counts.
-            QTimer::singleShot(0, [] { std::_Exit(0); });
+            EndAfterThisFrame();
         }
         return false;
     }
