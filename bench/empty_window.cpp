@@ -1,5 +1,5 @@
-// The least that a program of this toolkit can do: show an empty window, as large as the game's, and
-// end after its first frame. start_time measures it beside the game.
+// The least that a program of this toolkit can do: show an empty window, as large as the game's,
+// and end after its first frame. start_time measures it beside the game.
 #include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>

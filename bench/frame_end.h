@@ -10,9 +10,10 @@
 // To be called while the frame is painted. Prints microseconds since 1970.
 inline void EndAfterThisFrame() {
     QTimer::singleShot(0, [] {
+        using std::chrono::microseconds;
         const auto now = std::chrono::system_clock::now().time_since_epoch();
-        std::printf("%lld\n", static_cast<long long>(
-                                  std::chrono::duration_cast<std::chrono::microseconds>(now).count()));
+        const auto moment = std::chrono::duration_cast<microseconds>(now).count();
+        std::printf("%lld\n", static_cast<long long>(moment));
         std::fflush(stdout);
         std::_Exit(0);
     });

@@ -5,5 +5,5 @@
 // Called once there is an application object.
 void GuardTaps();
 
-// What lies under the stylus has changed: a dialog, a box or a chooser came or went, or a menu went.
+// What lies under the stylus has changed: a dialog, box or chooser came or went, or a menu went.
 void GroundChanged();
