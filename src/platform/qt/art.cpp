@@ -1,23 +1,19 @@
 #include "platform/qt/art.h"
 
-#include <QtGui/QImageReader>
+#include <QtCore/QResource>
+#include <cstring>
 #include <map>
 #include <thread>
 #include <tuple>
+
+#include "platform/qt/svg.h"
 
 namespace {
 
 using ArtKey = std::tuple<QString, int, int>;
 
-// By the toolkit's plugin, which is loaded here: linked to the program, its library would be on the
-// way of every start's main thread.
-QImage RenderFile(const QString& path, QSize size) {
-    if (size.isEmpty()) {
-        return {};
-    }
-    QImageReader reader(path, "svg");
-    reader.setScaledSize(size);
-    return reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+ArtKey KeyOf(const char* file, QSize size) {
+    return {QString::fromLatin1(file), size.width(), size.height()};
 }
 
 std::map<ArtKey, QImage> rendered;
@@ -25,18 +21,35 @@ std::map<ArtKey, QImage> rendered;
 // While it runs nobody else touches what is rendered.
 std::jthread ahead;  // joined at the end, whichever way the process ends
 
-const QImage& FindOrRender(const char* file, QSize size) {
+// Null when the build has not rendered it at this size. Loading the plugin takes longer than all
+// else that the first frame needs.
+QImage FindBaked(const QString& file, QSize size) {
+    const QResource baked(":/baked/" + BakedName(file, size.width()));
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    if (!baked.isValid() || baked.size() != picture.sizeInBytes()) {
+        return {};
+    }
+    std::memcpy(picture.bits(), baked.data(), static_cast<std::size_t>(baked.size()));
+    return picture;
+}
+
+const QImage& Keep(const ArtKey& key, QImage picture) {
     // A window that is being resized asks for many sizes; the last few dozen are enough.
     constexpr size_t mostKept = 64;
-    const ArtKey key(QString::fromLatin1(file), size.width(), size.height());
-    auto found = rendered.find(key);
-    if (found == rendered.end()) {
-        if (rendered.size() >= mostKept) {
-            rendered.clear();
-        }
-        found = rendered.emplace(key, RenderFile(":/art/" + std::get<0>(key), size)).first;
+    if (rendered.size() >= mostKept) {
+        rendered.clear();
     }
-    return found->second;
+    return rendered.emplace(key, std::move(picture)).first->second;
+}
+
+const QImage& FindOrRender(const char* file, QSize size) {
+    const ArtKey key = KeyOf(file, size);
+    const auto found = rendered.find(key);
+    if (found != rendered.end()) {
+        return found->second;
+    }
+    QImage baked = FindBaked(std::get<0>(key), size);
+    return Keep(key, baked.isNull() ? RenderSvg(":/art/" + std::get<0>(key), size) : baked);
 }
 
 void AwaitAhead() {
@@ -54,6 +67,9 @@ const QImage& RenderArt(const char* file, QSize size) {
 
 void RenderArtAhead(const std::vector<const char*>& files, QSize size) {
     AwaitAhead();
+    if (files.empty() || !FindBaked(QString::fromLatin1(files.front()), size).isNull()) {
+        return;
+    }
     ahead = std::jthread([files, size] {
         for (const char* file : files) {
             FindOrRender(file, size);
