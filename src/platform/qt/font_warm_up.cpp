@@ -8,22 +8,61 @@
 
 namespace {
 
-std::jthread reader;  // joined at the end, whichever way the process ends
-
-void ReadConfiguration() {
-    // Loaded by name, since the toolkit has it in any case and this needs one function of it.
-    void* library = dlopen("libfontconfig.so.1", RTLD_LAZY);
-    auto* initialize =
-        library == nullptr ? nullptr : reinterpret_cast<int (*)()>(dlsym(library, "FcInit"));
-    if (initialize != nullptr) {
-        initialize();
+// What is needed of the system's font library; loaded by name, since the toolkit has it anyhow.
+class FontLibrary {
+public:
+    FontLibrary() {
+        library = dlopen("libfontconfig.so.1", RTLD_LAZY);
+        Find(initialize, "FcInit");
+        Find(create, "FcConfigCreate");
+        Find(destroy, "FcConfigDestroy");
+        Find(parse, "FcConfigParseAndLoad");
+        Find(buildFonts, "FcConfigBuildFonts");
+        Find(makeCurrent, "FcConfigSetCurrent");
     }
-}
+
+    // As the library itself does it, but without its templates, which are there to be described to
+    // users and are a third of the work. Whatever is unusual is left to the library.
+    void ReadConfiguration() const {
+        if (!complete) {
+            return;
+        }
+        void* configuration = create();
+        if (configuration == nullptr) {
+            return;
+        }
+        if (parse(configuration, nullptr, 1) != 0 && buildFonts(configuration) != 0) {
+            makeCurrent(configuration);
+        } else {
+            destroy(configuration);
+            initialize();
+        }
+    }
+
+private:
+    template <typename Function>
+    void Find(Function*& function, const char* name) {
+        void* symbol = library == nullptr ? nullptr : dlsym(library, name);
+        function = reinterpret_cast<Function*>(symbol);
+        complete = complete && symbol != nullptr;
+    }
+
+    void* library;
+    bool complete = true;
+    int (*initialize)();
+    void* (*create)();
+    void (*destroy)(void* configuration);
+    int (*parse)(void* configuration, const unsigned char* usualFile, int complain);
+    int (*buildFonts)(void* configuration);
+    int (*makeCurrent)(void* configuration);
+};
+
+std::jthread reader;  // joined at the end, whichever way the process ends
 
 }  // namespace
 
 void WarmUpFonts() {
-    reader = std::jthread(ReadConfiguration);
+    reader = std::jthread([] { FontLibrary().ReadConfiguration(); });
 }
 
 void WarmUpFontDatabase() {

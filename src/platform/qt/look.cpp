@@ -12,3 +12,12 @@ QFont BarFont(double pixelSize, bool bold) {
     font.setBold(bold);
     return font;
 }
+
+QFont FontFor(const QString& text, QFont font) {
+    const bool plain = std::all_of(text.begin(), text.end(),
+                                   [](QChar each) { return each >= ' ' && each <= '~'; });
+    if (plain) {
+        font.setStyleStrategy(QFont::NoFontMerging);
+    }
+    return font;
+}

@@ -18,3 +18,7 @@ inline const QColor specialKeyColor(0xE3, 0xE8, 0xEC);
 
 // The face of all text, by its em in the pixels of whatever it is drawn on.
 QFont BarFont(double pixelSize, bool bold);
+
+// The font for this text. The search for other faces, for letters that this one has not, is long;
+// a text of plain letters goes without.
+QFont FontFor(const QString& text, QFont font);

@@ -5,6 +5,7 @@
 #include <QtGui/QFontMetrics>
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "platform/drawing.h"
 #include "platform/qt/look.h"
@@ -84,7 +85,7 @@ SizedFont MakeSizedFont(const FontChoice& choice, double ratio) {
     SizedFont sized;
     sized.pixelSize = std::max(1, qRound(em * ratio));
     sized.font = MakeFont(choice, sized.pixelSize);
-    const QFontMetricsF metrics(sized.font);
+    const QFontMetricsF metrics(FontFor({}, sized.font));
     // Rounded up, as a whole pixel row belongs to the leading: small numbers keep off the outline.
     sized.ascent = static_cast<int>(std::ceil(metrics.ascent()));
     sized.capHeight = qRound(metrics.capHeight());
@@ -114,14 +115,20 @@ const SizedFont& FindSizedFont(const FontChoice& choice, double ratio) {
     return entries.back().sized;
 }
 
+bool HasInk(QRgb pixel) {
+    return qAlpha(pixel) != 0;
+}
+
 QRect InkOf(const QImage& image) {
     QRect ink;
     for (int y = 0; y < image.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(line[x]) != 0) {
-                ink |= QRect(x, y, 1, 1);
-            }
+        const std::span line(reinterpret_cast<const QRgb*>(image.constScanLine(y)),
+                             static_cast<size_t>(image.width()));
+        const auto first = std::find_if(line.begin(), line.end(), HasInk);
+        if (first != line.end()) {
+            const auto end = std::find_if(line.rbegin(), line.rend(), HasInk).base();
+            ink |=
+                QRect(static_cast<int>(first - line.begin()), y, static_cast<int>(end - first), 1);
         }
     }
     return ink;
@@ -129,7 +136,8 @@ QRect InkOf(const QImage& image) {
 
 Stamp MakeStamp(const SizedFont& sized, QRgb color, const std::u16string& text) {
     const QString string = ToQString(text);
-    const QFontMetricsF metrics(sized.font);
+    const QFont font = FontFor(string, sized.font);
+    const QFontMetricsF metrics(font);
     const int margin = sized.pixelSize / 2 + 2;  // slanted and accented glyphs leave their cell
     const int advance = qRound(metrics.horizontalAdvance(string));
     const int height = sized.pixelSize * 2;
@@ -137,7 +145,7 @@ Stamp MakeStamp(const SizedFont& sized, QRgb color, const std::u16string& text) 
     image.fill(Qt::transparent);
     const QPoint pen(margin, margin + sized.ascent);
     QPainter painter(&image);
-    painter.setFont(sized.font);
+    painter.setFont(font);
     painter.setPen(QColor::fromRgb(color));
     painter.drawText(pen, string);
     painter.end();
@@ -205,7 +213,7 @@ void BreakLine(const std::u16string& line, const QFontMetricsF& metrics, int wid
 }
 
 Lines BreakLines(const SizedFont& sized, const std::u16string& text, int width) {
-    const QFontMetricsF metrics(sized.font);
+    const QFontMetricsF metrics(FontFor(ToQString(text), sized.font));
     Lines broken;
     for (const std::u16string& line : SplitLines(text)) {
         BreakLine(line, metrics, width, broken);

@@ -85,7 +85,7 @@ void TitleBar::paintEvent(QPaintEvent*) {
     const double magnification = host->Magnification();
     QPainter painter(this);
     painter.fillRect(rect(), titleBarColor);
-    painter.setFont(BarFont(13 * magnification, true));
+    painter.setFont(FontFor(title, BarFont(13 * magnification, true)));
     painter.setPen(titleTextColor);
     const auto inset = static_cast<int>(margin * magnification);
     painter.drawText(rect().adjusted(inset, 0, -inset, 0), Qt::AlignVCenter | Qt::AlignLeft, title);
