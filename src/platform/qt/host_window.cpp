@@ -125,7 +125,23 @@ void HostWindow::FinishStart() {
 void HostWindow::ShowIfHidden() {
     if (!isVisible()) {
         FitScreen();
-        show();
+        ShowBareFirst();
+    }
+}
+
+// For each widget that the toolkit shows it tells the session's aids for the disabled, and for the
+// first one it waits until it has found them. The window system is at work in the meantime.
+void HostWindow::ShowBareFirst() {
+    std::vector<QWidget*> inside;
+    for (QWidget* widget : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!widget->isHidden()) {
+            inside.push_back(widget);
+            widget->hide();
+        }
+    }
+    show();
+    for (QWidget* widget : inside) {
+        widget->show();
     }
 }
 

@@ -66,6 +66,7 @@ protected:
 
 private:
     void FitScreen();
+    void ShowBareFirst();
     QSize StartSize() const;
 
     double magnification = 1;
