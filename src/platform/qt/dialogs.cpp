@@ -1,10 +1,13 @@
 // Message boxes: the toolkit's own, sized with the screen.
 #include "platform/dialogs.h"
 
+#include <QtGui/QFontMetrics>
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtGui/QTextLayout>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProxyStyle>
@@ -22,7 +25,7 @@ namespace {
 // Logical pixels.
 constexpr int margin = 8;
 constexpr int iconSide = 24;
-constexpr int iconGap = 4;
+constexpr int iconGap = 8;
 
 int Magnified(int length) {
     return qRound(length * Host().Magnification());
@@ -60,6 +63,7 @@ public:
             case PM_LayoutRightMargin:
             case PM_LayoutBottomMargin: return Magnified(margin);
             case PM_LayoutHorizontalSpacing: return 0;
+            case PM_LayoutVerticalSpacing: return Magnified(margin / 2);
             default: return QProxyStyle::pixelMetric(metric, option, widget);
         }
     }
@@ -87,6 +91,10 @@ void Dress(QMessageBox& box) {
     box.setStyleSheet(DialogStyleSheet(Host().Magnification()));
 }
 
+bool HasIcon(const QMessageBox& box) {
+    return box.icon() != QMessageBox::NoIcon;
+}
+
 // What the toolkit lets a box have of the desktop.
 int WidestBox(int desktop) {
     constexpr int smallDesktop = 1024;
@@ -96,11 +104,18 @@ int WidestBox(int desktop) {
 // A box is no wider than the game's screen, unless that leaves nothing to read.
 int TextWidth(const QMessageBox& box) {
     constexpr int least = 230;
-    constexpr int toolkitsIndent = 8;
     const int widest = std::max(WidestBox(box.screen()->size().width()), least);
     const int width = std::clamp(Magnified(screenWidth), least, widest);
-    const int icon = box.icon() == QMessageBox::NoIcon ? 0 : Magnified(iconSide + iconGap);
-    return width - 2 * Magnified(margin) - toolkitsIndent - icon;
+    const int icon = HasIcon(box) ? Magnified(iconSide + iconGap) : 0;
+    return width - 2 * Magnified(margin) - icon;
+}
+
+// A desktop cuts the title of a box that has only room for a few words.
+int WidthForTitle(const QMessageBox& box) {
+    constexpr int desktopsButtons = 120;
+    const int title = QFontMetrics(QApplication::font()).horizontalAdvance(box.windowTitle());
+    const int icon = HasIcon(box) ? Magnified(iconSide + iconGap) : 0;
+    return title + desktopsButtons - 2 * Magnified(margin) - icon;
 }
 
 struct BrokenText {
@@ -131,15 +146,28 @@ BrokenText BreakLines(const QString& text, const QFont& font, double width) {
     return broken;
 }
 
-// The toolkit indents the text by a width of its own, and breaks it again in a box of 500 pixels.
+// The toolkit has a gap of its own before the text, even where there is no icon, and gives room that
+// is left to the icon.
+void Arrange(const QMessageBox& box) {
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    const int gap = HasIcon(box) ? 1 : 0;
+    QLayoutItem* item = grid == nullptr ? nullptr : grid->itemAtPosition(0, gap);
+    if (item != nullptr && item->spacerItem() != nullptr) {
+        item->spacerItem()->changeSize(HasIcon(box) ? Magnified(iconGap) : 0, 1);
+        grid->setColumnStretch(gap + 1, 1);
+    }
+}
+
+// The toolkit breaks the text again in a box of 500 pixels. A short one stands beside the middle of
+// the icon.
 void SetText(QMessageBox& box, const QString& text) {
     const BrokenText broken = BreakLines(text, ModalFont(), TextWidth(box));
     box.setText(broken.text);
     if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
-        const int gap = box.icon() == QMessageBox::NoIcon ? 0 : Magnified(iconGap);
-        label->setContentsMargins(gap, 0, 0, 0);
+        const int width = static_cast<int>(std::ceil(broken.width));
         label->setIndent(0);
-        label->setMinimumWidth(gap + static_cast<int>(std::ceil(broken.width)));
+        label->setMinimumWidth(std::max(width, WidthForTitle(box)));
+        label->setMinimumHeight(HasIcon(box) ? Magnified(iconSide) : 0);
     }
 }
 
@@ -161,6 +189,7 @@ int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
     box.setTextFormat(Qt::PlainText);
     box.setIcon(IconOf(style));
     Dress(box);
+    Arrange(box);
     SetText(box, QString::fromUtf16(text));
     box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     if (question) {
