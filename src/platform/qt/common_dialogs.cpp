@@ -4,11 +4,16 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
+#include <QtGui/QFontMetrics>
 #include <QtGui/QScreen>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QListView>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStyledItemDelegate>
+#include <QtWidgets/QToolButton>
+#include <algorithm>
 #include <string_view>
 
 #include "platform/dialogs.h"
@@ -54,6 +59,24 @@ QSize ChooserSize(const QFileDialog& dialog) {
     return wanted.expandedTo(QSizeF(480, 360)).boundedTo(desktop * most).toSize();
 }
 
+// As high as the text beside them. Those on the buttons only repeat what stands there.
+void SizeSigns(const QFileDialog& dialog) {
+    constexpr int toolkitsSmallest = 16;
+    const int side = std::max(QFontMetrics(ModalFont()).ascent(), toolkitsSmallest);
+    for (auto* button : dialog.findChildren<QToolButton*>()) {
+        button->setIconSize({side, side});
+    }
+    for (auto* view : dialog.findChildren<QAbstractItemView*>()) {
+        view->setIconSize({side, side});
+    }
+    for (auto* choice : dialog.findChildren<QComboBox*>()) {
+        choice->setIconSize({side, side});
+    }
+    for (auto* button : dialog.findChildren<QPushButton*>()) {
+        button->setIcon({});
+    }
+}
+
 // Names alone: beside the places there is no room for columns.
 void MakeReadable(QFileDialog& dialog) {
     dialog.setViewMode(QFileDialog::List);
@@ -79,6 +102,7 @@ void SetUp(QFileDialog& dialog, const OPENFILENAMEW& request) {
                            QUrl::fromLocalFile(DocumentsFolderOnHost()),
                            QUrl::fromLocalFile(QDir::homePath())});
     MakeReadable(dialog);
+    SizeSigns(dialog);
 }
 
 bool Run(QFileDialog& dialog, QString& chosen) {
@@ -126,10 +150,20 @@ bool ChooseToSave(const OPENFILENAMEW& request, QString& chosen) {
     return accepted;
 }
 
-void ExplainName(const OPENFILENAMEW& request, const std::u16string& advice) {
-    const std::u16string text =
-        u"The name of this file cannot be used: it is too long or has a backslash in it. " + advice;
+void Explain(const OPENFILENAMEW& request, const std::u16string& text) {
     MessageBoxW(request.hwndOwner, text.c_str(), request.lpstrTitle, MB_OK);
+}
+
+void ExplainName(const OPENFILENAMEW& request, const std::u16string& advice) {
+    Explain(request,
+            u"The name of this file cannot be used: it is too long or has a backslash in it. " +
+                advice);
+}
+
+// Told here, the player can choose again; later everything would have to be downloaded again.
+bool FolderTakesFiles(const QString& chosen) {
+    const QFileInfo folder(QFileInfo(chosen).path());
+    return folder.isDir() && folder.isWritable();
 }
 
 bool MayReplace(const OPENFILENAMEW& request, const QString& chosen) {
@@ -177,6 +211,8 @@ BOOL GetSaveFileNameW(OPENFILENAMEW* request) {
     while (ChooseToSave(*request, chosen)) {
         if (!HasUsableName(*request, chosen)) {
             ExplainName(*request, u"Please choose another name or folder.");
+        } else if (!FolderTakesFiles(chosen)) {
+            Explain(*request, u"Nothing can be saved in this folder. Please choose another one.");
         } else if (MayReplace(*request, chosen)) {
             Answer(*request, chosen);
             return TRUE;

@@ -146,8 +146,8 @@ BrokenText BreakLines(const QString& text, const QFont& font, double width) {
     return broken;
 }
 
-// The toolkit has a gap of its own before the text, even where there is no icon, and gives room that
-// is left to the icon.
+// The toolkit has a gap of its own before the text, even where there is no icon, and gives room
+// that is left to the icon.
 void Arrange(const QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     const int gap = HasIcon(box) ? 1 : 0;
