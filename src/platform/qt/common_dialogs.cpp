@@ -102,10 +102,10 @@ void SetUp(QFileDialog& dialog, const OPENFILENAMEW& request) {
                            QUrl::fromLocalFile(DocumentsFolderOnHost()),
                            QUrl::fromLocalFile(QDir::homePath())});
     MakeReadable(dialog);
-    SizeSigns(dialog);
 }
 
 bool Run(QFileDialog& dialog, QString& chosen) {
+    SizeSigns(dialog);
     if (RunModal(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return false;
     }
