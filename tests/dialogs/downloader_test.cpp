@@ -234,15 +234,20 @@ TEST_F(Downloading, TheChooserAddsTheExtensionThenAsksBeforeItReplaces) {
     EXPECT_TRUE(ReadBytes(folder / "mine.puz") == puzzle);
 }
 
-TEST_F(Downloading, NamesWithoutADevicePathAreExplainedAndChosenAgain) {
-    ChooseNextFile(folder / "back\\slash.puz");
-    ChooseNextFile({});
-    EXPECT_EQ(Download("/a.puz", {{Page(puzzle)}}), 0);
-    const auto messages = TakeShownMessages();
-    ASSERT_EQ(messages.size(), 1u);
-    EXPECT_EQ(messages[0].title, u"Save File");
-    EXPECT_NE(messages[0].text.find(u"cannot be used"), std::u16string::npos);
-    EXPECT_EQ(TakeShownChoosers().size(), 2u);
+TEST_F(Downloading, NamesAndFoldersThatCannotBeUsedAreExplainedAndChosenAgain) {
+    const std::pair<fs::path, std::u16string> wrong[] = {
+        {folder / "back\\slash.puz", u"name of this file cannot be used"},
+        {folder / "none" / "new.puz", u"Nothing can be saved in this folder"}};
+    for (const auto& [file, explained] : wrong) {
+        ChooseNextFile(file);
+        ChooseNextFile({});
+        EXPECT_EQ(Download("/a.puz", {{Page(puzzle)}}), 0);
+        const auto messages = TakeShownMessages();
+        ASSERT_EQ(messages.size(), 1u);
+        EXPECT_EQ(messages[0].title, u"Save File");
+        EXPECT_NE(messages[0].text.find(explained), std::u16string::npos);
+        EXPECT_EQ(TakeShownChoosers().size(), 2u);
+    }
     EXPECT_EQ(Stored(), std::vector<fs::path>());
 }
 

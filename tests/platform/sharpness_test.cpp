@@ -85,6 +85,24 @@ TEST_F(Sharpness, OutlinesAreEquallyThickAtEveryRatio) {
     }
 }
 
+// The last row of black pixels below a letter's cell and below a black square.
+TEST_F(Sharpness, BlackSquaresEndWithTheOutlinesAtEveryRatio) {
+    for (double magnification : {1.0, 1.37, 1.9, 2.5, 3.0}) {
+        handheld->Resize(magnification);
+        Play({"AB", "C."}, mediumSize);
+        const QImage buffer = BufferImage();
+        const auto lastBlack = [&](int logicalX) {
+            int last = 0;
+            for (int y = 0; y < buffer.height(); ++y) {
+                const int x = static_cast<int>(logicalX * magnification);
+                last = ColorAt(buffer, x, y) == RGB(0, 0, 0) ? y : last;
+            }
+            return last;
+        };
+        EXPECT_EQ(lastBlack(BoardLeft + 30), lastBlack(BoardLeft + 10)) << magnification;
+    }
+}
+
 // A letter that was enlarged would be made of blocks of three by three.
 TEST_F(Sharpness, LettersHaveTheDetailOfTheirRatio) {
     handheld->Resize(3);

@@ -235,7 +235,24 @@ int SetBkMode(HDC context, int mode) {
     return context == nullptr ? 0 : std::exchange(context->backgroundMode, mode);
 }
 
+namespace {
+
+// From edge to edge in one colour: it clears. Its last pixels are as whole as the others, not as
+// thin as an outline.
+bool Clears(HDC context, const RECT& area) {
+    const QSize size = context->surface->Size();
+    return context->pen->color == context->brush->color &&
+           ((area.left <= 0 && area.right >= size.width()) ||
+            (area.top <= 0 && area.bottom >= size.height()));
+}
+
+}  // namespace
+
 BOOL Rectangle(HDC context, int left, int top, int right, int bottom) {
+    const RECT area{left, top, right, bottom};
+    if (context != nullptr && context->surface != nullptr && Clears(context, area)) {
+        return DrawOn(context, FillMark{area, context->brush->color});
+    }
     return RoundRect(context, left, top, right, bottom, 0, 0);
 }
 

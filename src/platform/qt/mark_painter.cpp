@@ -65,7 +65,7 @@ void MarkPainter::operator()(const FrameMark& mark) const {
     if (!mark.corner.isEmpty()) {
         PaintRoundFrame(mark, outer);
     } else if (mark.outline == mark.fill) {
-        painter.fillRect(scale.Area(mark.area), QColor::fromRgb(mark.fill));
+        painter.fillRect(outer, QColor::fromRgb(mark.fill));
     } else {
         const int thickness = scale.LineThickness();
         const QColor outline = QColor::fromRgb(mark.outline);

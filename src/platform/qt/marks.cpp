@@ -11,8 +11,7 @@ struct HiddenAreaOf {
         if (!mark.corner.isEmpty()) {
             return {};
         }
-        const int edge = mark.outline == mark.fill ? 0 : 1;
-        return {mark.area.left, mark.area.top, mark.area.right - edge, mark.area.bottom - edge};
+        return {mark.area.left, mark.area.top, mark.area.right - 1, mark.area.bottom - 1};
     }
     RECT operator()(const LineMark&) const {
         return {};
