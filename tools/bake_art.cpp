@@ -3,9 +3,9 @@
 //   bake_art FOLDER SIDE[,SIDE...] FILE.svg...
 //
 // Writes FOLDER/FILE.svg.SIDE: rows of premultiplied ARGB words in the machine's byte order.
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtGui/QGuiApplication>
 #include <cstdio>
 
 #include "platform/qt/svg.h"
@@ -33,9 +33,8 @@ bool Bake(const QDir& folder, const QString& path, int side) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argumentCount, arguments);
-    const QStringList given = QGuiApplication::arguments();
+    const QCoreApplication application(argumentCount, arguments);
+    const QStringList given = QCoreApplication::arguments();
     constexpr qsizetype firstFile = 3;
     if (given.size() <= firstFile) {
         std::fprintf(stderr, "usage: bake_art FOLDER SIDE[,SIDE...] FILE.svg...\n");

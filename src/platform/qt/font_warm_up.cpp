@@ -31,10 +31,12 @@ public:
         if (configuration == nullptr) {
             return;
         }
-        if (parse(configuration, nullptr, 1) != 0 && buildFonts(configuration) != 0) {
-            makeCurrent(configuration);
-        } else {
-            destroy(configuration);
+        const bool usable = parse(configuration, nullptr, 1) != 0 && buildFonts(configuration) != 0;
+        if (usable) {
+            makeCurrent(configuration);  // with a reference of its own
+        }
+        destroy(configuration);
+        if (!usable) {
             initialize();
         }
     }
