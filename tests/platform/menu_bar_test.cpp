@@ -10,10 +10,6 @@
 
 namespace {
 
-constexpr const char* mainMenu = "Main Menu";
-constexpr const char* hintMenu = "Display a hint";
-constexpr const char* sizeMenu = "Puzzle magnification";
-
 class MenuBarKeys : public PlayedBoard {
 protected:
     // The headless screen does not see that a window which was hidden is active again; another
@@ -39,9 +35,9 @@ TEST_F(MenuBarKeys, F10AndAltGoToTheBarAndBack) {
     for (int key : {Qt::Key_F10, Qt::Key_Alt}) {
         for (int back : {int{Qt::Key_Escape}, key}) {
             Key(key);
-            EXPECT_EQ(FocusedButton(), mainMenu);
+            EXPECT_EQ(FocusedButton(), "Main Menu");
             Key(Qt::Key_Shift);
-            EXPECT_EQ(FocusedButton(), mainMenu);
+            EXPECT_EQ(FocusedButton(), "Main Menu");
             Key(back);
             EXPECT_EQ(FocusedButton(), "");
         }
@@ -67,23 +63,22 @@ TEST_F(MenuBarKeys, OtherKeysAreThePrograms) {
 
 // Around the ends; the panel's is the last one.
 TEST_F(MenuBarKeys, ArrowsGoAroundTheButtonsThatCanBePressed) {
-    const std::vector<std::string> expected = {
-        mainMenu,
-        "Checks the puzzle",
-        hintMenu,
-        "Select a new puzzle",
-        "Open the clue list",
-        sizeMenu,
-        "Toggle clues across / down",
-        "Display Keyboard",
-        "About Quadrel",
-        "Keyboard"};
+    const std::vector<std::string> expected = {"Main Menu",
+                                               "Checks the puzzle",
+                                               "Display a hint",
+                                               "Select a new puzzle",
+                                               "Open the clue list",
+                                               "Puzzle magnification",
+                                               "Toggle clues across / down",
+                                               "Display Keyboard",
+                                               "About Quadrel",
+                                               "Keyboard"};
     Key(Qt::Key_F10);
     for (const std::string& button : expected) {
         EXPECT_EQ(FocusedButton(), button);
         Key(Qt::Key_Right);
     }
-    EXPECT_EQ(FocusedButton(), mainMenu);
+    EXPECT_EQ(FocusedButton(), "Main Menu");
     for (auto button = expected.rbegin(); button != expected.rend(); ++button) {
         Key(Qt::Key_Left);
         EXPECT_EQ(FocusedButton(), *button);
@@ -99,14 +94,6 @@ TEST_F(MenuBarKeys, EnterPressesTheButtonAndGivesTheKeysBack) {
     Key(Qt::Key_Return);
     EXPECT_EQ(Direction, 1);
     EXPECT_EQ(FocusedButton(), "");
-    TakeOpenedMenus();
-    Key(Qt::Key_F10);
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Down);
-    EXPECT_EQ(TakeOpenedMenus(), 1) << "an arrow opens the popup";
-    Key(Qt::Key_K);
-    EXPECT_EQ(PlayerLetters()[0], 'K');
 }
 
 // What a menu bar's arrows do everywhere: the first item is selected, and beside the submenus they

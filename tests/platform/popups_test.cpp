@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr const char* mainMenu = "Main Menu";
-
 class Popups : public PlayedBoard {
 protected:
     // Does something while the popup of the main menu is open.
@@ -21,22 +19,10 @@ protected:
             opened = true;
             action(menu);
         });
-        handheld->PressButton(mainMenu);
+        handheld->PressButton("Main Menu");
         EXPECT_TRUE(opened);
     }
 };
-
-// Built once: opening a popup again makes nothing anew.
-TEST_F(Popups, AreBuiltOnce) {
-    for (const char* button : {mainMenu, "Display a hint", "Puzzle magnification"}) {
-        const ShownMenu first = LookAtMenu(*handheld, button);
-        const auto children = first.popup->findChildren<QObject*>();
-        const ShownMenu second = LookAtMenu(*handheld, button);
-        EXPECT_EQ(first.popup, second.popup);
-        EXPECT_EQ(second.popup->findChildren<QObject*>(), children);
-        EXPECT_EQ(first.items, second.items);
-    }
-}
 
 // From the first to the last column that has anything else than the background.
 int InkWidth(const QImage& item) {

@@ -15,8 +15,8 @@
 #include "platform/dialogs.h"
 #include "platform/qt/endings.h"
 #include "platform/qt/help_window.h"
-#include "platform/qt/host_window.h"
 #include "platform/qt/window.h"
+#include "support/opened_pages.h"
 #include "support/played_board.h"
 
 namespace fs = std::filesystem;
@@ -26,17 +26,6 @@ namespace {
 constexpr const WCHAR* viewer = u"PegHelp.exe";
 constexpr const WCHAR* browser = u"iexplore.exe";
 constexpr const WCHAR* address = u"http://www.quadrel.example.com/";
-
-std::vector<HelpWindow*> ShownHelpWindows() {
-    std::vector<HelpWindow*> shown;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* help = qobject_cast<HelpWindow*>(widget);
-        if (help != nullptr && help->isVisible()) {
-            shown.push_back(help);
-        }
-    }
-    return shown;
-}
 
 QTextBrowser* Page() {
     return ShownHelpWindows().at(0)->findChild<QTextBrowser*>();
@@ -48,9 +37,9 @@ void PressInHelp(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 // Every piece of the document's text that is formatted alike.
-std::vector<QTextFragment> Pieces(const QTextDocument& document) {
+std::vector<QTextFragment> Pieces() {
     std::vector<QTextFragment> pieces;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    for (QTextBlock block = Page()->document()->begin(); block.isValid(); block = block.next()) {
         for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
             pieces.push_back(piece.fragment());
         }
@@ -59,9 +48,9 @@ std::vector<QTextFragment> Pieces(const QTextDocument& document) {
 }
 
 // Each chapter's name and where its heading begins.
-std::map<QString, int> Chapters(const QTextDocument& document) {
+std::map<QString, int> Chapters() {
     std::map<QString, int> chapters;
-    for (const QTextFragment& piece : Pieces(document)) {
+    for (const QTextFragment& piece : Pieces()) {
         for (const QString& name : piece.charFormat().anchorNames()) {
             EXPECT_TRUE(chapters.emplace(name, piece.position()).second) << name.toStdString();
         }
@@ -69,29 +58,11 @@ std::map<QString, int> Chapters(const QTextDocument& document) {
     return chapters;
 }
 
-std::set<QString> Links(const QTextDocument& document) {
-    std::set<QString> links;
-    for (const QTextFragment& piece : Pieces(document)) {
-        if (!piece.charFormat().anchorHref().isEmpty()) {
-            links.insert(piece.charFormat().anchorHref());
-        }
-    }
-    return links;
-}
-
 // Where the heading stands, in pixels below the top of the page.
 int TopOf(int position) {
     QTextCursor heading(Page()->document());
     heading.setPosition(position);
     return Page()->cursorRect(heading).top();
-}
-
-bool Await(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(10000);
-    while (!condition() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    }
-    return condition();
 }
 
 class StartedHelp : public PlayedBoard {
@@ -106,28 +77,24 @@ protected:
 // The desktop's opener of addresses is a script of the test's.
 class StartedBrowser : public PlayedBoard {
 protected:
-    StartedBrowser() : path(qgetenv("PATH")) {
-        fs::create_directory(Folder());
-        qputenv("PATH", Folder().c_str());
-        // An absolute path in either of these is a browser in spite of PATH.
-        qunsetenv("BROWSER");
-        qunsetenv("DEFAULT_BROWSER");
-    }
-    ~StartedBrowser() override {
-        qputenv("PATH", path);
-    }
-    fs::path Folder() const {
-        return home.root() / "bin";
-    }
-    fs::path Opened() const {
-        return home.root() / "opened";
-    }
     void MakeOpener(int exitCode) {
-        const fs::path script = Folder() / "xdg-open";
-        WriteBytes(script, "#!/bin/sh\necho \"$@\" >" + Opened().string() + ".new\n/bin/mv " +
-                               Opened().string() + ".new " + Opened().string() + "\nexit " +
-                               std::to_string(exitCode) + "\n");
+        const fs::path script = home.root() / "xdg-open";
+        const std::string file = opened.string();
+        WriteBytes(script, "#!/bin/sh\necho \"$@\" >" + file + ".new\n/bin/mv " + file + ".new " +
+                               file + "\nexit " + std::to_string(exitCode) + "\n");
         fs::permissions(script, fs::perms::owner_all);
+    }
+    static bool Await(const std::function<bool()>& condition) {
+        const QDeadlineTimer deadline(10000);
+        while (!condition() && !deadline.hasExpired()) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        return condition();
+    }
+    void ExpectOpened(const std::string& wanted) {
+        ASSERT_TRUE(Await([this] { return fs::exists(opened); }));
+        EXPECT_EQ(ReadBytes(opened), wanted + "\n");
+        fs::remove(opened);
     }
     static void ExpectAddressTold() {
         const std::vector<ShownMessage> messages = TakeShownMessages();
@@ -135,16 +102,17 @@ protected:
         EXPECT_NE(messages[0].text.find(address), std::u16string::npos);
     }
 
-private:
-    QByteArray path;
+    fs::path opened = home.root() / "opened";
+    OpenedPages onlyThisOpener{home.root()};
 };
 
 }  // namespace
 
-TEST_F(StartedHelp, BringsEveryChapterToTheTop) {
-    Open("");
-    const std::map<QString, int> chapters = Chapters(*Page()->document());
-    ASSERT_TRUE(chapters.contains("contact_us"));
+TEST_F(StartedHelp, BringsEveryChapterToTheTopOfOneWindow) {
+    Open("#contact_us");
+    HelpWindow* first = ShownHelpWindows().at(0);
+    const std::map<QString, int> chapters = Chapters();
+    EXPECT_LE(TopOf(chapters.at("contact_us")), 20) << "first opened at a chapter";
     ASSERT_TRUE(chapters.contains("trademarks_copyrights"));
     // The last chapters are shorter than the window, and it may be resized.
     for (const QSize size : {QSize(500, 700), QSize(260, 400), QSize(1500, 1600)}) {
@@ -155,26 +123,14 @@ TEST_F(StartedHelp, BringsEveryChapterToTheTop) {
             EXPECT_LE(TopOf(position), 20) << name.toStdString() << " at " << size.width();
         }
     }
-}
-
-TEST_F(StartedHelp, FirstOpenedAtAChapterShowsIt) {
-    Open("#contact_us");
-    EXPECT_LE(TopOf(Chapters(*Page()->document()).at("contact_us")), 20);
-}
-
-TEST_F(StartedHelp, HasOneWindowHoweverOftenItIsAskedFor) {
-    Open("#contact_us");
-    const HelpWindow* first = ShownHelpWindows().at(0);
-    Open("#trademarks_copyrights");
     Open("");
-    ASSERT_EQ(ShownHelpWindows().size(), 1U);
-    EXPECT_EQ(ShownHelpWindows()[0], first);
     EXPECT_GE(TopOf(0), 0);
+    EXPECT_EQ(ShownHelpWindows(), std::vector<HelpWindow*>{first});
 }
 
 TEST_F(StartedHelp, KeepsThePlaceWhileTheTextIsEnlarged) {
     Open("#files");
-    const int heading = Chapters(*Page()->document()).at("files");
+    const int heading = Chapters().at("files");
     const int usual = Page()->font().pixelSize();
     for (int i = 0; i < 5; ++i) {
         PressInHelp(Qt::Key_Plus, Qt::ControlModifier);
@@ -186,36 +142,31 @@ TEST_F(StartedHelp, KeepsThePlaceWhileTheTextIsEnlarged) {
     EXPECT_EQ(Page()->font().pixelSize(), usual);
 }
 
-TEST_F(StartedHelp, EveryLinkLeadsSomewhere) {
+TEST_F(StartedHelp, EveryLinkLeadsSomewhereAndEveryPictureIsThere) {
     Open("");
-    const std::map<QString, int> chapters = Chapters(*Page()->document());
+    const std::map<QString, int> chapters = Chapters();
     std::set<QString> linked;
-    for (const QString& link : Links(*Page()->document())) {
-        if (link.startsWith('#')) {
-            EXPECT_TRUE(chapters.contains(link.mid(1))) << link.toStdString();
-            linked.insert(link.mid(1));
-        } else {
-            const QUrl web(link);
-            EXPECT_EQ(web.scheme(), "https") << link.toStdString();
-            EXPECT_TRUE(web.host().endsWith(".example.com")) << link.toStdString();
-        }
-    }
-    // The list of contents itself is reached by its button.
-    EXPECT_EQ(linked.size() + 1, chapters.size()) << "a chapter that no link leads to";
-}
-
-TEST_F(StartedHelp, EveryPictureIsThere) {
-    Open("");
     int pictures = 0;
-    for (const QTextFragment& piece : Pieces(*Page()->document())) {
+    for (const QTextFragment& piece : Pieces()) {
+        const QString link = piece.charFormat().anchorHref();
+        SCOPED_TRACE(link.toStdString());
         if (piece.charFormat().isImageFormat()) {
             const QTextImageFormat image = piece.charFormat().toImageFormat();
             ++pictures;
             EXPECT_TRUE(QFile::exists(":/art/" + image.name())) << image.name().toStdString();
             EXPECT_GT(image.width() * image.height(), 0) << image.name().toStdString();
         }
+        if (link.startsWith('#')) {
+            EXPECT_TRUE(chapters.contains(link.mid(1)));
+            linked.insert(link.mid(1));
+        } else if (!link.isEmpty()) {
+            EXPECT_EQ(QUrl(link).scheme(), "https");
+            EXPECT_TRUE(QUrl(link).host().endsWith(".example.com"));
+        }
     }
     EXPECT_GT(pictures, 10);
+    // The list of contents itself is reached by its button.
+    EXPECT_EQ(linked.size() + 1, chapters.size()) << "a chapter that no link leads to";
 }
 
 TEST_F(StartedHelp, GivesTheKeysBackToTheGame) {
@@ -257,27 +208,15 @@ TEST_F(StartedHelp, StartsNoOtherProgram) {
     EXPECT_TRUE(ShownHelpWindows().empty());
 }
 
-TEST_F(StartedBrowser, GetsTheAddress) {
+TEST_F(StartedBrowser, GetsTheProgramsAddressesAndTheLinksOfTheHelp) {
     MakeOpener(0);
     EXPECT_TRUE(CreateProcessW(browser, address));
-    ASSERT_TRUE(Await([this] { return fs::exists(Opened()); }));
-    EXPECT_EQ(ReadBytes(Opened()), QString::fromUtf16(address).toStdString() + "\n");
-}
-
-TEST_F(StartedBrowser, GetsTheLinksOfTheHelp) {
-    MakeOpener(0);
+    ExpectOpened("http://www.quadrel.example.com/");
     EXPECT_TRUE(CreateProcessW(viewer, u"OvelQuadrel.htm#contact_us"));
     const QUrl shown = Page()->source();
     emit Page()->anchorClicked(QUrl("https://www.quadrel.example.com/"));
-    ASSERT_TRUE(Await([this] { return fs::exists(Opened()); }));
-    EXPECT_EQ(ReadBytes(Opened()), "https://www.quadrel.example.com/\n");
+    ExpectOpened("https://www.quadrel.example.com/");
     EXPECT_EQ(Page()->source(), shown);
-}
-
-TEST_F(StartedBrowser, MissingIsSaidWithTheAddress) {
-    AnswerNextMessageBox(IDOK);
-    EXPECT_FALSE(CreateProcessW(browser, address));
-    ExpectAddressTold();
 }
 
 // The desktop has an opener, but no browser that it could open.

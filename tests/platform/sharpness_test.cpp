@@ -34,23 +34,6 @@ TEST_F(Sharpness, AResizedScreenIsTheScreenOfThatSize) {
     EXPECT_EQ(play(2.5, 1), one);
 }
 
-// Enlarged or smoothed edges would bring colours that nobody chose.
-TEST_F(Sharpness, EmptyBoardsHoldPureColoursAtEveryRatio) {
-    for (double magnification : {1.37, 2.5, 3.0}) {
-        handheld->Resize(magnification);
-        Play(lopsidedBoard, mediumSize);
-        const std::set<COLORREF> chosen = {RGB(0, 0, 0), RGB(255, 255, 255), RGB(192, 192, 192),
-                                           RGB(255, 255, 2), RGB(255, 200, 125)};
-        const QImage buffer = BufferImage();
-        for (int y = 0; y < buffer.height(); ++y) {
-            for (int x = 0; x < buffer.width(); ++x) {
-                ASSERT_TRUE(chosen.count(ColorAt(buffer, x, y)) == 1)
-                    << x << ", " << y << " at " << magnification;
-            }
-        }
-    }
-}
-
 // The lengths of the black runs along a line of pixels.
 std::vector<int> BlackRuns(const QImage& image, QPoint start, QPoint step) {
     std::vector<int> runs;
@@ -68,19 +51,32 @@ std::vector<int> BlackRuns(const QImage& image, QPoint start, QPoint step) {
     return runs;
 }
 
-TEST_F(Sharpness, OutlinesAreEquallyThickAtEveryRatio) {
+// Enlarged or smoothed edges would bring colours that nobody chose.
+void ExpectChosenColoursOnly(const QImage& image) {
+    const std::set<COLORREF> chosen = {RGB(0, 0, 0), RGB(255, 255, 255), RGB(192, 192, 192),
+                                       RGB(255, 255, 2), RGB(255, 200, 125)};
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            ASSERT_TRUE(chosen.contains(ColorAt(image, x, y))) << x << ", " << y;
+        }
+    }
+}
+
+TEST_F(Sharpness, EmptyBoardsHavePureColoursAndOutlinesOfOneThicknessAtEveryRatio) {
     for (double magnification : {1.0, 1.37, 1.9, 2.5, 3.0}) {
+        SCOPED_TRACE(magnification);
         handheld->Resize(magnification);
-        for (MagnificationFlags size : {smallSize, mediumSize, largeSize}) {
+        for (MagnificationFlags size : sizes) {
             Play(BoardRows(9, std::string(7, 'A')), size);
             const QImage buffer = BufferImage();
+            ExpectChosenColoursOnly(buffer);
             const int middle = static_cast<int>((BoardLeft + CellSize / 2) * magnification);
             const auto across =
                 BlackRuns(buffer, {0, static_cast<int>(CellSize / 2 * magnification)}, {1, 0});
             const auto down = BlackRuns(buffer, {middle, 0}, {0, 1});
             const int thickness = static_cast<int>(magnification);
-            EXPECT_EQ(across, std::vector<int>(8, thickness)) << magnification;
-            EXPECT_EQ(down, std::vector<int>(10, thickness)) << magnification;
+            EXPECT_EQ(across, std::vector<int>(8, thickness));
+            EXPECT_EQ(down, std::vector<int>(10, thickness));
         }
     }
 }

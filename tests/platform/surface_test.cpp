@@ -34,12 +34,22 @@ struct PlainPicture {
         QPainter painter(&image);
         for (const auto& mark : marks) {
             if (const auto* copy = std::get_if<PlainCopy>(&mark)) {
-                CopyPixels(painter, scale, copy->area, copy->from->Image(scale), copy->source);
+                PaintCopy(painter, scale, *copy);
             } else {
                 PaintMark(painter, scale, std::get<Mark>(mark));
             }
         }
         return image;
+    }
+
+    // What lies outside of the source is white.
+    static void PaintCopy(QPainter& painter, const Scale& scale, const PlainCopy& copy) {
+        const QRect area = scale.Area(copy.area);
+        const QPoint source(scale.At(copy.source.x), scale.At(copy.source.y));
+        painter.setClipRect(area);
+        painter.fillRect(area, Qt::white);
+        painter.drawImage(area.topLeft() - source, copy.from->Image(scale));
+        painter.setClipping(false);
     }
 };
 
@@ -91,12 +101,12 @@ private:
     std::vector<RECT> areas;
 };
 
-class ResizedSurface : public testing::Test {
+class Surfaces : public testing::TestWithParam<unsigned> {
 protected:
-    ResizedSurface() {
+    Surfaces() {
         Surface::SetRatioOfAll(1);
     }
-    ~ResizedSurface() override {
+    ~Surfaces() override {
         Surface::SetRatioOfAll(1);
     }
 
@@ -134,8 +144,6 @@ protected:
     PlainPicture plain;
     PlainPicture plainOther;
 };
-
-class Surfaces : public ResizedSurface, public testing::WithParamInterface<unsigned> {};
 
 // Marks come from a small pool, so that the same ones return in other company: what a surface must
 // see as unchanged, and what not.
@@ -209,10 +217,8 @@ TEST_P(Surfaces, PaintTheirFirstFrameAsTheirPixelsAre) {
     EXPECT_EQ(frame.copy(QRect(place, size)), surface.Image());
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, Surfaces, testing::Range(1u, 9u));
-
-TEST_F(ResizedSurface, KeepsItsContentAndIsWhiteWhereItIsNew) {
-    std::mt19937 random(5);
+TEST_P(Surfaces, KeepTheirContentAndAreWhiteWhereTheyAreNew) {
+    std::mt19937 random(GetParam() + 3000);
     MarkMaker maker(random);
     for (int i = 0; i < 20; ++i) {
         Draw(maker.Any());
@@ -225,5 +231,7 @@ TEST_F(ResizedSurface, KeepsItsContentAndIsWhiteWhereItIsNew) {
               before.copy(0, 0, width, height - 30));
     EXPECT_EQ(surface.Image().pixel(5, height + 5), 0xFFFFFFFF);
 }
+
+INSTANTIATE_TEST_SUITE_P(Seeds, Surfaces, testing::Range(1u, 9u));
 
 }  // namespace

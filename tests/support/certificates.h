@@ -1,13 +1,9 @@
 // Certificates made for the tests, and what the program under test trusts.
 #pragma once
 
+#include <QtCore/QTemporaryDir>
 #include <filesystem>
 #include <string>
-
-struct ServerCertificate {
-    std::filesystem::path certificate;
-    std::filesystem::path key;
-};
 
 // Makes them with the openssl command in a folder of its own.
 class Certificates {
@@ -15,21 +11,12 @@ public:
     // Names its authority in SSL_CERT_FILE for as long as it lives.
     Certificates();
     ~Certificates();
-    Certificates(const Certificates&) = delete;
-    Certificates& operator=(const Certificates&) = delete;
 
-    // For the host 127.0.0.1, from the trusted authority.
-    ServerCertificate Good() const;
-    // With one fault each.
-    ServerCertificate OfOtherHost() const;
-    ServerCertificate Expired() const;
-    ServerCertificate FromStranger() const;
+    // The file of a new certificate and its key. One that has its own name as the signer's comes
+    // from a stranger, one of a negative number of days has expired.
+    std::filesystem::path Make(const std::string& name, const std::string& host = "IP:127.0.0.1",
+                               int days = 2, const std::string& signer = "authority") const;
 
 private:
-    ServerCertificate Make(const std::string& name, const std::string& authority,
-                           const std::string& host, int days) const;
-    void MakeAuthority(const std::string& name) const;
-    void Run(const std::string& arguments) const;
-
-    std::filesystem::path folder;
+    QTemporaryDir folder;
 };

@@ -71,7 +71,7 @@ void CollectItems(const QMenu* menu, const QString& prefix, ShownMenu& shown) {
         if (action->menu() != nullptr) {
             CollectItems(action->menu(), prefix + action->text() + "/", shown);
         } else if (!action->isSeparator()) {
-            shown.items[prefix + action->text()] = {action->isEnabled(), action->isChecked()};
+            shown.items[prefix + action->text()] = {action->isChecked()};
         }
     }
 }
@@ -92,13 +92,13 @@ bool ChooseFromContext(Handheld& handheld, POINT point, const ItemPath& path) {
 }
 
 ShownMenu LookAtMenu(Handheld& handheld, const QString& tooltip) {
+    QMenu* popup = nullptr;
+    const NextMenu next([&](QMenu* menu) { popup = menu; });
+    // The program sets the check marks while it is open.
+    handheld.PressButton(tooltip);
     ShownMenu shown;
-    {
-        const NextMenu next([&](QMenu* menu) { shown.popup = menu; });
-        handheld.PressButton(tooltip);
-    }
-    if (shown.popup != nullptr) {
-        CollectItems(shown.popup, "", shown);
+    if (popup != nullptr) {
+        CollectItems(popup, "", shown);
     }
     return shown;
 }

@@ -19,13 +19,10 @@ bool ChooseFromBar(Handheld& handheld, const QString& tooltip, const ItemPath& p
 bool ChooseFromContext(Handheld& handheld, POINT point, const ItemPath& path);
 
 struct ShownItem {
-    bool enabled = false;
     bool checked = false;
-    bool operator==(const ShownItem&) const = default;
 };
 
 struct ShownMenu {
-    QMenu* popup = nullptr;
     std::map<QString, ShownItem> items;  // by their texts, joined with "/"
 };
 

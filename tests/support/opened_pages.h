@@ -5,10 +5,15 @@
 #include <string>
 #include <vector>
 
+class HelpWindow;
+
+std::vector<HelpWindow*> ShownHelpWindows();
+
 // Takes the browser away, so that every address comes back in a message to the player.
 class OpenedPages {
 public:
-    OpenedPages();
+    // The desktop's opener of addresses is looked for in the folder only.
+    explicit OpenedPages(const std::string& openers = "/nowhere");
     ~OpenedPages();
     OpenedPages(const OpenedPages&) = delete;
     OpenedPages& operator=(const OpenedPages&) = delete;

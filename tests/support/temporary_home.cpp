@@ -8,27 +8,20 @@
 namespace fs = std::filesystem;
 
 TemporaryHome::TemporaryHome() {
-    std::string pattern = (fs::temp_directory_path() / "quadrel-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder can be made");
-    }
-    folder = pattern;
     fs::create_directories(documents());
     fs::create_directories(programFolder());
-    setenv("QUADREL_HOME", folder.c_str(), 1);
+    setenv("QUADREL_HOME", root().c_str(), 1);
 }
 
 TemporaryHome::~TemporaryHome() {
     unsetenv("QUADREL_HOME");
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
 }
 
 std::map<std::string, std::string> TemporaryHome::Files() const {
     std::map<std::string, std::string> files;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(root())) {
         if (entry.is_regular_file()) {
-            files[fs::relative(entry.path(), folder).string()] = ReadBytes(entry.path());
+            files[fs::relative(entry.path(), root()).string()] = ReadBytes(entry.path());
         }
     }
     return files;

@@ -1,6 +1,7 @@
 // A fresh home for the handheld's folders, gone at the end of the scope.
 #pragma once
 
+#include <QtCore/QTemporaryDir>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -10,14 +11,12 @@ public:
     // Sets QUADREL_HOME to a new folder that holds both of the handheld's folders, empty.
     TemporaryHome();
     ~TemporaryHome();
-    TemporaryHome(const TemporaryHome&) = delete;
-    TemporaryHome& operator=(const TemporaryHome&) = delete;
 
     std::filesystem::path root() const {
-        return folder;
+        return folder.path().toStdString();
     }
     std::filesystem::path documents() const {
-        return folder / "Documents";
+        return root() / "Documents";
     }
     std::filesystem::path stateFile() const {
         return programFolder() / "quadrel.dat";
@@ -25,11 +24,11 @@ public:
     // Every file under the home and what is in it.
     std::map<std::string, std::string> Files() const;
     std::filesystem::path programFolder() const {
-        return folder / "quadrel";
+        return root() / "quadrel";
     }
 
 private:
-    std::filesystem::path folder;
+    QTemporaryDir folder;
 };
 
 void WriteBytes(const std::filesystem::path& path, const std::string& bytes);

