@@ -4,10 +4,14 @@
 // QUADREL_MONKEY_STEPS says how many steps, QUADREL_MONKEY_SEED where the chances start.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <random>
 
+#include "board/clue_bar.h"
+#include "keyboard/keyboard_drawing.h"
 #include "platform/dialogs.h"
+#include "platform/drawing.h"
 #include "platform/qt/host_window.h"
 #include "support/menus.h"
 #include "support/played_board.h"
@@ -74,6 +78,7 @@ public:
         }
         ExpectSoundSelection();
         ExpectSoundView();
+        ExpectCleanScreen();
         TakeShownMessages();
     }
 
@@ -195,6 +200,24 @@ private:
         ASSERT_EQ(OffscreenBuffer.height, BufferHeight);
         ASSERT_GE(BufferWidth, BoardLeft + PuzzleWidth * CellSize);
         ASSERT_GE(BufferHeight, PuzzleHeight * CellSize);
+        if (Magnification.Small == 1) {
+            ASSERT_EQ(CellSize, std::min(240 / PuzzleWidth, ViewHeight / PuzzleHeight));
+        } else {
+            ASSERT_EQ(CellSize, Magnification.Medium == 1 ? 20 : 24);
+        }
+    }
+
+    // Everything that belongs on the window is painted on a white one: the same must be there
+    // already, without a strip of something older.
+    void ExpectCleanScreen() {
+        const QImage before = handheld.Client();
+        HDC context = GetDC(MainWindow);
+        PatBlt(context, 0, 0, 240, 268, WHITENESS);
+        ReleaseDC(MainWindow, context);
+        PaintClueBar(MainWindow);
+        DrawKeyboardIfVisible(MainWindow);
+        CopyViewToScreen(MainWindow);
+        ASSERT_EQ(handheld.Client(), before);
     }
 
     std::mt19937& random;

@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
+#include "board/board_picture.h"
 #include "platform/dialogs.h"
 #include "platform/qt/host_window.h"
 #include "storage/paths.h"
-#include "support/played_board.h"
 
 namespace {
 
@@ -21,8 +21,8 @@ class Opening : public testing::Test {
 protected:
     Opening() {
         ForgetPuzzle();
-        PutFile("first.puz", PuzzleBytes(squareBoard, "First"));
-        PutFile("second.puz", PuzzleBytes(otherBoard, "Second"));
+        PutFile("first.puz", Begun(PuzzleBytes(squareBoard, "First"), 6));
+        PutFile("second.puz", Begun(PuzzleBytes(otherBoard, "Second"), 4));
         handheld.emplace(home);
     }
     ~Opening() override {
@@ -30,6 +30,12 @@ protected:
         EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>());
     }
 
+    // With a first letter that somebody has entered: a puzzle starts empty all the same.
+    static std::string Begun(std::string bytes, std::size_t side) {
+        constexpr std::size_t solution = 52;
+        bytes[solution + side * side] = 'Q';
+        return bytes;
+    }
     void PutFile(const std::string& name, const std::string& bytes) {
         WriteBytes(home.documents() / name, bytes);
     }
@@ -69,6 +75,7 @@ protected:
 };
 
 TEST_F(Opening, AnotherPuzzleAndTheFirstAgainKeepsEveryLetter) {
+    EXPECT_EQ(PlayerLetters().find_first_not_of("-."), std::string::npos);
     handheld->Type("XYZ");
     handheld->TapCell(4, 3);
     handheld->Type("Q");
@@ -76,8 +83,8 @@ TEST_F(Opening, AnotherPuzzleAndTheFirstAgainKeepsEveryLetter) {
     Open("second.puz");
     EXPECT_EQ(Path(), u"\\My Documents\\second.puz");
     EXPECT_EQ(PlayerLetters(), "------.---------");
-    EXPECT_EQ(CursorRow, 0);
-    EXPECT_EQ(CursorCol, 0);
+    EXPECT_EQ(std::pair(CursorRow, CursorCol), std::pair(0, 0));
+    ExpectPicture(otherBoard, true);
     handheld->Type("MN");
     const std::string secondLetters = PlayerLetters();
     EXPECT_EQ(secondLetters.substr(0, 4), "MN--");
@@ -89,12 +96,11 @@ TEST_F(Opening, AnotherPuzzleAndTheFirstAgainKeepsEveryLetter) {
     EXPECT_EQ(PlayerLetters(), secondLetters);
 }
 
-TEST_F(Opening, ThePuzzleInPlayReadsItsOwnLettersStraightBack) {
+TEST_F(Opening, ANewPuzzleOfTheSameShapeStartsEmpty) {
     handheld->Type("XYZ");
-    const std::string letters = PlayerLetters();
-    Open("first.puz");
-    EXPECT_EQ(PlayerLetters(), letters);
-    EXPECT_EQ(ReadBytes(home.documents() / "first.dat").size(), 4096u);
+    PutFile("twin.puz", PuzzleBytes(squareBoard, "Twin"));
+    Open("twin.puz");
+    EXPECT_EQ(PlayerLetters().find_first_not_of("-."), std::string::npos);
 }
 
 TEST_F(Opening, CancelAndNoChangeAndWriteNothing) {
@@ -114,46 +120,34 @@ TEST_F(Opening, CancelAndNoChangeAndWriteNothing) {
 }
 
 // Faults: the puzzle in play is lost to a file that is none, or its letters are.
-TEST_F(Opening, FilesThatAreNoPuzzlesLeaveThePuzzleInPlay) {
+TEST_F(Opening, FilesThatCannotBePlayedLeaveThePuzzleInPlay) {
     const std::string good = PuzzleBytes(otherBoard);
     std::string tooLarge = good;
     tooLarge[44] = tooLarge[45] = 41;
-    PutFile("gone.dat", "");
+    const std::u16string noPuzzle = u"This file is not a puzzle that Quadrel can open.";
+    const std::u16string notSquare = u"Quadrel plays square puzzles only. This one is ";
+    const std::pair<std::string, std::u16string> files[] = {
+        {"<html><body>The page you asked for is not here, sorry.</body></html>", noPuzzle},
+        {"", noPuzzle},
+        {tooLarge, noPuzzle},
+        {good.substr(0, 52 + 31), noPuzzle},
+        {PuzzleBytes(BoardRows(21, std::string(15, 'A'))), notSquare + u"15 by 21."},
+        {PuzzleBytes(lopsidedBoard), notSquare + u"7 by 5."}};
     handheld->Type("XYZ");
     const Play before = Present();
-    for (const std::string& bytes :
-         {std::string("<html><body>The page you asked for is not here, sorry.</body></html>"),
-          std::string(), tooLarge, good.substr(0, 52 + 31)}) {
+    for (const auto& [bytes, reason] : files) {
         PutFile("broken.puz", bytes);
+        const auto filesBefore = home.Files();
         Choose("broken.puz");
         EXPECT_EQ(TakeShownMessages(),
-                  (std::vector<ShownMessage>{
-                      Question(u"broken.puz"),
-                      {u"This file is not a puzzle that Quadrel can open.", u"Open File"}}))
+                  (std::vector<ShownMessage>{Question(u"broken.puz"), {reason, u"Open File"}}))
             << bytes.size() << " bytes";
         EXPECT_EQ(Present(), before) << bytes.size() << " bytes";
         EXPECT_EQ(handheld->Pixel(BoardLeft + 3 * CellSize + 9, 9), RGB(0, 0, 0));
+        EXPECT_TRUE(reason == noPuzzle || home.Files() == filesBefore);
     }
     handheld->Press('V');
     EXPECT_EQ(PlayerLetters()[static_cast<std::size_t>(CursorRow * 6)], 'V');
-}
-
-TEST_F(Opening, FilesThatAreNotSquareAreExplainedAndChangeNothing) {
-    PutFile("broad.puz", PuzzleBytes(BoardRows(21, std::string(15, 'A'))));
-    PutFile("tall.puz", PuzzleBytes(lopsidedBoard));
-    handheld->Type("XYZ");
-    const Play before = Present();
-    const auto files = home.Files();
-    Choose("broad.puz");
-    Choose("tall.puz");
-    EXPECT_EQ(TakeShownMessages(),
-              (std::vector<ShownMessage>{
-                  Question(u"broad.puz"),
-                  {u"Quadrel plays square puzzles only. This one is 15 by 21.", u"Open File"},
-                  Question(u"tall.puz"),
-                  {u"Quadrel plays square puzzles only. This one is 7 by 5.", u"Open File"}}));
-    EXPECT_EQ(Present(), before);
-    EXPECT_TRUE(home.Files() == files);
 }
 
 // Between the choice and the answer another program may take the file away.

@@ -115,22 +115,9 @@ TEST_F(Session, LeavesItsStateAndGoesOnWhereItStopped) {
     Start();
     EXPECT_EQ(PlayerLetters(), playedGrid);
     EXPECT_EQ(std::string(SolutionGrid, 6), "ABC.DE");
-    EXPECT_EQ(CellSize, 20);
-    EXPECT_EQ(AutoSkip, 1);
-    EXPECT_EQ(ShowNumbers, 1);
+    EXPECT_EQ(std::tuple(CellSize, AutoSkip, ShowNumbers), std::tuple(20, 1, 1));
     End();
     ExpectSameBytes(State(), state);
-}
-
-TEST_F(Session, FirstStartDropsTheLettersOfThePuzzleFile) {
-    std::string bytes = PuzzleBytes(squareBoard);
-    bytes[52 + 36] = 'Q';
-    WriteBytes(home.documents() / "first.puz", bytes);
-    Start();
-    EXPECT_EQ(PlayerLetters(), emptyGrid);
-    EXPECT_EQ(CursorRow, 0);
-    EXPECT_EQ(CursorCol, 0);
-    EXPECT_TRUE(std::filesystem::is_directory(home.documents() / "Quadrel Puzzles"));
 }
 
 // The restored letters are another puzzle's when the black squares differ, or the file is gone.
@@ -144,10 +131,7 @@ TEST_F(Session, DropsLettersOfAnotherPuzzleAtTheNextStart) {
     expected[1 * 6 + 2] = '.';
     Start();
     EXPECT_EQ(PlayerLetters(), expected);
-}
-
-TEST_F(Session, DropsLettersOfAPuzzleThatIsGone) {
-    PlayAlong(Start());
+    PlayAlong(*handheld);
     End();
     std::filesystem::remove(home.documents() / "first.puz");
     WriteBytes(home.documents() / "second.puz", PuzzleBytes(squareBoard));
@@ -158,21 +142,22 @@ TEST_F(Session, DropsLettersOfAPuzzleThatIsGone) {
 
 TEST_F(Session, WithoutAnyPuzzleSaysSoAndTakesEverythingCalmly) {
     std::filesystem::remove(home.documents() / "first.puz");
-    Handheld& handheldWithoutPuzzle = Start();
+    Start();
     EXPECT_EQ(
         TakeShownMessages(),
         (std::vector<ShownMessage>{
             {u"Please choose a puzzle file from the Available Puzzles option.", u"Choose File"}}));
-    EXPECT_TRUE(handheldWithoutPuzzle.Running());
-    const QImage bar = handheldWithoutPuzzle.Client().copy(0, 248, 240, 20);
+    EXPECT_TRUE(handheld->Running());
+    const QImage bar = handheld->Client().copy(0, 248, 240, 20);
     QImage white(bar.size(), bar.format());
     white.fill(Qt::white);
     EXPECT_EQ(bar, white) << "a clue where there is no puzzle";
-    handheldWithoutPuzzle.Tap(3, 3);
-    handheldWithoutPuzzle.Press(Qt::Key_Left);
-    handheldWithoutPuzzle.Press(Qt::Key_Backspace);
-    handheldWithoutPuzzle.PressPanelButton();
-    handheldWithoutPuzzle.RightClick(100, 100);
+    EXPECT_TRUE(std::filesystem::is_directory(home.documents() / "Quadrel Puzzles"));
+    handheld->Tap(3, 3);
+    handheld->Press(Qt::Key_Left);
+    handheld->Press(Qt::Key_Backspace);
+    handheld->PressPanelButton();
+    handheld->RightClick(100, 100);
     End();
     EXPECT_EQ(State().size(), 4096u);
 }
@@ -202,9 +187,7 @@ TEST_F(Session, StateFilesFromElsewhereDoNoHarm) {
         WriteBytes(home.stateFile(), state);
         Start();
         EXPECT_EQ(PlayerLetters(), emptyGrid);
-        EXPECT_EQ(Magnification.Small, 1);
-        EXPECT_EQ(AutoSkip, 0);
-        EXPECT_EQ(ShowNumbers, 0);
+        EXPECT_EQ(std::tuple(Magnification.Small, AutoSkip, ShowNumbers), std::tuple(1, 0, 0));
     }
 }
 

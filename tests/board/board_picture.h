@@ -68,15 +68,16 @@ private:
 };
 
 // Compares the whole off-screen buffer; pixels of cells with text are left to other checks.
-template <typename HasText>
-void ExpectPicture(const BoardRows& rows, bool highlighted, const HasText& hasText) {
+template <typename Highlighted, typename HasText>
+void ExpectPicture(const BoardRows& rows, const Highlighted& highlighted, const HasText& hasText) {
     const BoardPicture picture(rows);
     const QImage buffer = BufferImage();
     ASSERT_EQ(buffer.size(), QSize(BufferWidth, BufferHeight));
     for (int y = 0; y < buffer.height(); ++y) {
         for (int x = 0; x < buffer.width(); ++x) {
             if (!picture.MayHoldInk(x, y, hasText)) {
-                ASSERT_EQ(ColorAt(buffer, x, y), picture.At(x, y, highlighted))
+                const bool inHighlight = highlighted(y / CellSize, (x - BoardLeft) / CellSize);
+                ASSERT_EQ(ColorAt(buffer, x, y), picture.At(x, y, inHighlight))
                     << "pixel " << x << ", " << y << " cells of " << CellSize << " selection "
                     << CursorRow << ", " << CursorCol << " direction " << Direction
                     << BoardText(rows);
@@ -86,7 +87,8 @@ void ExpectPicture(const BoardRows& rows, bool highlighted, const HasText& hasTe
 }
 
 inline void ExpectPicture(const BoardRows& rows, bool highlighted) {
-    ExpectPicture(rows, highlighted, [](int, int) { return false; });
+    ExpectPicture(
+        rows, [=](int, int) { return highlighted; }, [](int, int) { return false; });
 }
 
 // The pixels of a cell's inside that are not as they would be without text.

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "board/board_picture.h"
-#include "platform/drawing.h"
 #include "support/menus.h"
 
 namespace {
@@ -15,6 +14,13 @@ protected:
     void Show(const char* hint) {
         EXPECT_TRUE(ChooseFromBar(*handheld, "Display a hint", {hint})) << hint;
     }
+    // By holding the stylus there, while another cell is selected.
+    void ShowForCell(int row, int col, const char* hint) {
+        SelectCell(0, 0, Direction);
+        const POINT point{BoardLeft + col * CellSize + 6, row * CellSize + 6};
+        const char* scope = hint == letterHint ? "Letter" : hint == wordHint ? "Word" : "Puzzle";
+        EXPECT_TRUE(ChooseFromContext(*handheld, point, {"View", scope}));
+    }
 
     // Wrong letters in the words that are peeked at, and beside them.
     void PlayWithLetters(MagnificationFlags size, int row, int col, int direction) {
@@ -24,98 +30,69 @@ protected:
         }
         SelectCell(row, col, direction);
         RepaintFully(MainWindow);
-        before = {PlayerLetters(), BelowBoard()};
     }
-
-    void ExpectOnlyThePictureChanged() {
-        EXPECT_EQ(PlayerLetters(), before.letters);
-        EXPECT_EQ(ShowSolution, 0);
-        EXPECT_EQ(BelowBoard(), before.clueBar);
-        ExpectBufferOnScreen();
-    }
-
-    struct Before {
-        std::string letters;
-        QImage clueBar;
-    };
-    Before before;
 };
 
-bool IsSelected(int row, int col) {
-    return row == CursorRow && col == CursorCol;
-}
+// What a hint must look like: the cells whose solution it shows, and those that are highlighted.
+struct PlainHint {
+    const char* hint;
+    BoardPicture picture{lopsidedBoard};
 
-// The selected cell alone in its colour; text is left out where it may be.
-template <typename HasText>
-void ExpectSelectedCellAlone(const HasText& hasText) {
-    const BoardPicture picture(lopsidedBoard);
-    const QImage buffer = BufferImage();
-    for (int y = 0; y < buffer.height(); ++y) {
-        for (int x = 0; x < buffer.width(); ++x) {
-            const bool inside = x > BoardLeft + CursorCol * CellSize &&
-                                x < BoardLeft + (CursorCol + 1) * CellSize &&
-                                y > CursorRow * CellSize && y < (CursorRow + 1) * CellSize;
-            if (!picture.MayHoldInk(x, y, hasText)) {
-                ASSERT_EQ(ColorAt(buffer, x, y), picture.At(x, y, inside)) << x << ", " << y;
+    static bool IsSelected(int row, int col) {
+        return row == CursorRow && col == CursorCol;
+    }
+    bool Reveals(int row, int col) const {
+        if (hint == puzzleHint) {
+            return picture.Cell(row, col) != '.';
+        }
+        return hint == letterHint ? IsSelected(row, col) : picture.InSelectedWord(row, col);
+    }
+    bool Highlights(int row, int col) const {
+        return hint == wordHint || (hint == letterHint && IsSelected(row, col));
+    }
+
+    void ExpectCells() const {
+        ForEachCell([this](int row, int col) {
+            const auto ink = InkOfCell(lopsidedBoard, row, col, Highlights(row, col));
+            const bool keepsLetter = HasPlayersLetter(row, col) && !Reveals(row, col);
+            EXPECT_EQ(Any(ink, IsPureRed), Reveals(row, col));
+            EXPECT_EQ(Any(ink, IsDark), keepsLetter || HasNumber(row, col));
+        });
+    }
+    void ExpectRest() const {
+        ExpectPicture(
+            lopsidedBoard, [this](int row, int col) { return Highlights(row, col); },
+            [this](int row, int col) {
+                return Reveals(row, col) || HasPlayersLetter(row, col) || HasNumber(row, col);
+            });
+    }
+};
+
+// Faults: another highlight than the hint's, a neighbour's solution shows, the player's letter is
+// left or the solution entered, numbers in Small or although they are switched off, red ones, ones
+// that the letters or the highlight of later cells cover.
+TEST_F(Hints, ShowTheirSolutionsInRedAndChangeNothingElse) {
+    for (MagnificationFlags size : sizes) {
+        for (const char* hint : {letterHint, wordHint, puzzleHint}) {
+            for (int variant = 0; variant < 8; ++variant) {
+                SCOPED_TRACE(testing::Message() << hint << ", variant " << variant);
+                const int direction = variant % 2;
+                ShowNumbers = variant / 2 % 2;
+                // Once a cell that has a number, and once one that has none.
+                PlayWithLetters(size, 3, 2 - direction, direction);
+                const std::string letters = PlayerLetters();
+                if (variant < 4) {
+                    Show(hint);
+                } else {
+                    ShowForCell(CursorRow, CursorCol, hint);
+                }
+                EXPECT_EQ(PlayerLetters(), letters);
+                EXPECT_EQ(ShowSolution, 0);
+                const PlainHint expected{hint};
+                expected.ExpectCells();
+                expected.ExpectRest();
             }
         }
-    }
-}
-
-// Faults: the word is highlighted, too, a neighbour's solution shows, the player's letter is left,
-// the letter is entered.
-TEST_F(Hints, LetterHintsShowTheSelectedCellOnly) {
-    for (MagnificationFlags size : sizes) {
-        for (int direction : {0, 1}) {
-            PlayWithLetters(size, 3, 2, direction);
-            Show(letterHint);
-            ExpectOnlyThePictureChanged();
-            ExpectSelectedCellAlone([](int row, int col) {
-                return IsSelected(row, col) || HasPlayersLetter(row, col);
-            });
-            ForEachCell([](int row, int col) {
-                const auto ink = InkOfCell(lopsidedBoard, row, col, IsSelected(row, col));
-                EXPECT_EQ(Any(ink, IsPureRed), IsSelected(row, col));
-            });
-            const auto ink = InkOfCell(lopsidedBoard, 3, 2, true);
-            EXPECT_FALSE(Any(ink, IsDark)) << "the player's letter is covered";
-        }
-    }
-}
-
-TEST_F(Hints, WordHintsShowTheWholeWordInTheDirection) {
-    for (MagnificationFlags size : sizes) {
-        for (int direction : {0, 1}) {
-            PlayWithLetters(size, 3, 1, direction);
-            Show(wordHint);
-            ExpectOnlyThePictureChanged();
-            const BoardPicture picture(lopsidedBoard);
-            ExpectPicture(lopsidedBoard, true, [&](int row, int col) {
-                return picture.InSelectedWord(row, col) || HasPlayersLetter(row, col);
-            });
-            ForEachCell([&picture](int row, int col) {
-                const auto ink = InkOfCell(lopsidedBoard, row, col, true);
-                const bool inWord = picture.InSelectedWord(row, col);
-                EXPECT_EQ(Any(ink, IsPureRed), inWord);
-                EXPECT_EQ(Any(ink, IsDark), !inWord && HasPlayersLetter(row, col));
-            });
-        }
-    }
-}
-
-TEST_F(Hints, PuzzleHintsShowEveryLetterWithoutAHighlight) {
-    for (MagnificationFlags size : sizes) {
-        PlayWithLetters(size, 3, 1, 1);
-        Show(puzzleHint);
-        ExpectOnlyThePictureChanged();
-        const BoardPicture picture(lopsidedBoard);
-        ExpectPicture(lopsidedBoard, false,
-                      [&](int row, int col) { return picture.Cell(row, col) != '.'; });
-        ForEachCell([&picture](int row, int col) {
-            const auto ink = InkOfCell(lopsidedBoard, row, col, false);
-            EXPECT_EQ(Any(ink, IsPureRed), picture.Cell(row, col) != '.');
-            EXPECT_FALSE(Any(ink, IsDark));
-        });
     }
 }
 
@@ -147,27 +124,6 @@ TEST_F(Hints, ABlackSquareHasNoLetterToShow) {
     }
 }
 
-// Faults: numbers in Small or although they are switched off, red ones, ones that the letters or
-// the highlight of later cells cover.
-TEST_F(Hints, NumbersAreBlackInTheLargerSizesOnly) {
-    for (MagnificationFlags size : sizes) {
-        for (int shown : {0, 1}) {
-            ShowNumbers = shown;
-            for (const char* hint : {letterHint, wordHint, puzzleHint}) {
-                Play(lopsidedBoard, size);
-                SelectCell(3, 2, 0);
-                Show(hint);
-                ForEachCell([hint](int row, int col) {
-                    const bool plain =
-                        hint == puzzleHint || (hint == letterHint && !IsSelected(row, col));
-                    const auto ink = InkOfCell(lopsidedBoard, row, col, !plain);
-                    EXPECT_EQ(Any(ink, IsDark), HasNumber(row, col)) << hint;
-                });
-            }
-        }
-    }
-}
-
 // A number of many digits must not run over the neighbour, which is not painted after it.
 TEST_F(Hints, TheNumberOfALetterHintStaysInItsCell) {
     ShowNumbers = 1;
@@ -182,20 +138,6 @@ TEST_F(Hints, TheNumberOfALetterHintStaysInItsCell) {
         EXPECT_TRUE(Any(InkOfCell({"AB", "CD"}, 0, 0, true), IsDark));
         const QImage neighbour = hint.copy(right, 0, CellSize, CellSize);
         EXPECT_EQ(neighbour, board.copy(right, 0, CellSize, CellSize));
-    }
-}
-
-// Everything below the board is painted anew, whatever was there.
-TEST_F(Hints, PaintTheClueBarAndTheKeyboard) {
-    Play(lopsidedBoard, largeSize);
-    EXPECT_TRUE(handheld->PressButton("Display Keyboard"));
-    const QImage below = BelowBoard();
-    for (const char* hint : {letterHint, wordHint, puzzleHint}) {
-        HDC context = GetDC(MainWindow);
-        PatBlt(context, 0, ViewHeight, 240, 65, WHITENESS);
-        ReleaseDC(MainWindow, context);
-        Show(hint);
-        EXPECT_EQ(BelowBoard(), below) << hint;
     }
 }
 

@@ -67,13 +67,6 @@ protected:
         TakeShownMessages();
         TakeShownChoosers();
     }
-    void Open(const fs::path& file) {
-        ChooseNextFile(file);
-        AnswerNextMessageBox(IDYES);
-        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
-        TakeShownMessages();
-        TakeShownChoosers();
-    }
     static ShownMessage Question(const std::u16string& name) {
         return {u"Save file at this location: \\My Documents\\Quadrel Puzzles\\" + name,
                 u"Confirm"};
@@ -94,18 +87,12 @@ protected:
     std::string puzzle = Titled(squareBoard, "The Sunday Puzzle No. 12");
 };
 
-TEST_F(Downloading, StoresAPuzzleHoweverItIsSent) {
-    const std::string zipped = Page(Gzip(puzzle), "200 OK", "Content-Encoding: gzip\r\n");
-    const WebAnswer answers[] = {{{Page(puzzle)}},
-                                 {Cut(Page(puzzle), 20), 0},
-                                 {Cut(PageWithoutLength(puzzle), 100), 5},
-                                 {{zipped}},
-                                 {{Redirection("/moved")}}};
-    server.Put("/moved", Page(puzzle));
-    for (const WebAnswer& answer : answers) {
+TEST_F(Downloading, StoresEveryBlockUnderTheSuggestedName) {
+    const std::string longPuzzle = puzzle + std::string(70000, 'n') + "end";
+    for (const std::string& bytes : {puzzle, longPuzzle}) {
         AcceptNextFile();
         AnswerNextMessageBox(IDYES);
-        EXPECT_EQ(Download("/a.puz", answer), 1);
+        EXPECT_EQ(Download("/a.puz", {Cut(Page(bytes), 9000), 1}), 1);
         ExpectMessages({Question(u"TheSundayP.puz"), success});
         const auto choosers = TakeShownChoosers();
         ASSERT_EQ(choosers.size(), 1u);
@@ -113,20 +100,11 @@ TEST_F(Downloading, StoresAPuzzleHoweverItIsSent) {
         EXPECT_EQ(choosers[0].folder, folder);
         EXPECT_EQ(choosers[0].name, "TheSundayP");
         EXPECT_EQ(Stored(), std::vector<fs::path>{"TheSundayP.puz"});
-        EXPECT_TRUE(ReadBytes(folder / "TheSundayP.puz") == puzzle);
+        EXPECT_TRUE(ReadBytes(folder / "TheSundayP.puz") == bytes);
         fs::remove(folder / "TheSundayP.puz");
     }
     EXPECT_EQ(CurrentPuzzlePath, std::u16string(u"\\My Documents\\start.puz"))
         << "nothing is opened";
-}
-
-TEST_F(Downloading, StoresEveryBlockOfALongFile) {
-    const std::string longPuzzle = puzzle + std::string(70000, 'n') + "end";
-    AcceptNextFile();
-    AnswerNextMessageBox(IDYES);
-    EXPECT_EQ(Download("/a.puz", {Cut(Page(longPuzzle), 9000), 1}), 1);
-    EXPECT_TRUE(ReadBytes(folder / "TheSundayP.puz") == longPuzzle);
-    TakeShownMessages();
 }
 
 TEST_F(Downloading, AnEmptyAnswerIsASuccessWithoutAFile) {
@@ -302,69 +280,69 @@ TEST_F(Downloading, AskedToEndItEndsAtOnceAndSaysNothing) {
 class Replacing : public Downloading {
 protected:
     Replacing() {
+        PlayFirst();
+    }
+    void PlayFirst() {
         Store(puzzle);
-        Open(file);
+        OpenPuzzle(file);
         handheld->Type("XYZ");
     }
-    std::string Lookalike() const {
-        return Titled(lookalikeBoard, "The Sunday Puzzle No. 13");
+    void StoreLookalike() {
+        Store(Titled(lookalikeBoard, "The Sunday Puzzle No. 13"));
     }
-    void Restart() {
-        handheld.reset();
-        ForgetPuzzle();
-        handheld = std::make_unique<Handheld>(home);
+    void OpenAnother() {
+        OpenPuzzle(home.documents() / "start.puz");
+    }
+    void ExpectFreshLookalike() {
+        EXPECT_EQ(PlayerLetters(),
+                  "---.--------"
+                  "--.---------"
+                  ".-----"
+                  "--.---");
+        EXPECT_EQ(SolutionGrid[0], 'Q');
     }
 
     fs::path file = folder / "TheSundayP.puz";
-    const std::string fresh =
-        "---.--------"
-        "--.---------"
-        ".-----"
-        "--.---";
 };
 
 TEST_F(Replacing, APuzzleLeavesNoLettersToItsSuccessor) {
-    Open(home.documents() / "start.puz");
-    ASSERT_TRUE(fs::exists(folder / "TheSundayP.dat"));
-    Store(Lookalike());
-    Open(file);
-    EXPECT_EQ(PlayerLetters(), fresh);
-    EXPECT_EQ(SolutionGrid[0], 'Q');
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"closed before",
+         [this] {
+             OpenAnother();
+             StoreLookalike();
+         }},
+        {"deleted before",
+         [this] {
+             OpenAnother();
+             fs::remove(file);
+             StoreLookalike();
+         }},
+        {"still in play", [this] { StoreLookalike(); }},
+        {"closed after",
+         [this] {
+             StoreLookalike();
+             OpenAnother();
+         }},
+    };
+    for (const auto& [name, replace] : ways) {
+        SCOPED_TRACE(name);
+        PlayFirst();
+        replace();
+        OpenPuzzle(file);
+        ExpectFreshLookalike();
+    }
 }
 
-// Its file may also have been deleted before.
-TEST_F(Replacing, ADeletedPuzzleLeavesNoneEither) {
-    Open(home.documents() / "start.puz");
-    fs::remove(file);
-    Store(Lookalike());
-    Open(file);
-    EXPECT_EQ(PlayerLetters(), fresh);
-}
-
-TEST_F(Replacing, ThePuzzleInPlayLeavesNone) {
-    Store(Lookalike());
+TEST_F(Replacing, ThePuzzleInPlayIsPlayedOnAndLeavesNoneToTheNextStart) {
+    StoreLookalike();
     handheld->Type("W");
-    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYW") << "it is played on";
-    Open(file);
-    EXPECT_EQ(PlayerLetters(), fresh);
-    EXPECT_EQ(SolutionGrid[0], 'Q');
-}
-
-TEST_F(Replacing, ThePuzzleInPlayLeavesNoneOnTheWayOverAnother) {
-    Store(Lookalike());
-    Open(home.documents() / "start.puz");
-    Open(file);
-    EXPECT_EQ(PlayerLetters(), fresh);
-}
-
-TEST_F(Replacing, ThePuzzleInPlayLeavesNoneToTheNextStart) {
-    Store(Lookalike());
+    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYW");
     Magnification = mediumSize;
     Restart();
     EXPECT_EQ(CurrentPuzzlePath,
               std::u16string(u"\\My Documents\\Quadrel Puzzles\\TheSundayP.puz"));
-    EXPECT_EQ(PlayerLetters(), fresh);
-    EXPECT_EQ(SolutionGrid[0], 'Q');
+    ExpectFreshLookalike();
     EXPECT_EQ(Magnification.Medium, 1) << "the settings are the player's";
 }
 
@@ -372,9 +350,9 @@ TEST_F(Replacing, TheSamePuzzleKeepsItsLetters) {
     Store(puzzle);
     Restart();
     EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
-    Open(home.documents() / "start.puz");
+    OpenAnother();
     Store(puzzle);
-    Open(file);
+    OpenPuzzle(file);
     EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
 }
 

@@ -128,8 +128,7 @@ TEST_F(EveryDialog, ClosesWithTheProgramWhichSavesItsState) {
         Use(known, [](OpenDialog&) { Host().close(); });
         EXPECT_FALSE(handheld->Running()) << known.title;
         EXPECT_TRUE(std::filesystem::exists(home.stateFile())) << known.title;
-        handheld.reset();
-        handheld = std::make_unique<Handheld>(home);
+        Restart();
     }
 }
 

@@ -60,14 +60,13 @@ TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
             dialog.Tap(changed);
             EXPECT_EQ(Settings(), before);
         });
+        SCOPED_TRACE(control);
         std::vector<int> now = Settings();
         now.resize(expected.size());
-        EXPECT_EQ(now, expected) << control;
+        EXPECT_EQ(now, expected);
         EXPECT_EQ(PlayerLetters().size(), 35u);
         EXPECT_EQ(CursorRow, 3);
-        const QImage shown = handheld->Client();
-        RepaintFully(MainWindow);
-        EXPECT_EQ(handheld->Client(), shown) << control;
+        ExpectFullRepaint();
     }
     EXPECT_TRUE(LookAtMenu(*handheld, "Puzzle magnification").items["Small"].checked);
     EXPECT_TRUE(LookAtMenu(*handheld, "Main Menu").items["Toggle/Numbers"].checked);
@@ -88,6 +87,7 @@ TEST_F(Preferences, TheArrowsChooseASize) {
     EXPECT_EQ(AutoSkip, 1);
 }
 
+// The colours that players mix themselves are kept for the run.
 TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
     Start(smallSize);
     constexpr COLORREF green = RGB(10, 120, 30);
@@ -101,28 +101,17 @@ TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
         EXPECT_EQ(BackgroundColor, cream);
         const QImage button = dialog.Widget(controlSquareColor)->grab().toImage();
         EXPECT_EQ(ColorAt(button, button.width() / 2, button.height() / 2), green);
+        QColorDialog::setCustomColor(0, Qt::white);
+        SquareColorChooser.lpCustColors[3] = RGB(1, 23, 45);
         PickNextColor(RGB(1, 2, 3), false);
         dialog.Tap(controlSquareColor);
         EXPECT_EQ(SquareColor, green);
+        EXPECT_EQ(QColorDialog::customColor(3), QColor(1, 23, 45));
+        EXPECT_EQ(QColorDialog::customColor(8), QColor(Qt::black));
     });
     // The black square of the first row, and a letter cell.
     EXPECT_EQ(handheld->Pixel(BoardLeft + 2 * CellSize + CellSize / 2, CellSize / 2), green);
     EXPECT_EQ(handheld->Pixel(BoardLeft + CellSize / 2, CellSize / 2), cream);
-}
-
-TEST_F(Preferences, CustomColorsAreKeptForTheRun) {
-    Start(smallSize);
-    const QColor own(1, 23, 45);
-    Use([&](OpenDialog& dialog) {
-        PickNextColor(RGB(0, 0, 0), false);
-        QColorDialog::setCustomColor(0, Qt::white);
-        dialog.Tap(controlSquareColor);
-        EXPECT_EQ(QColorDialog::customColor(8), QColor(Qt::black));
-        SquareColorChooser.lpCustColors[3] = RGB(1, 23, 45);
-        PickNextColor(RGB(0, 0, 0), false);
-        dialog.Tap(controlBackgroundColor);
-        EXPECT_EQ(QColorDialog::customColor(3), own);
-    });
 }
 
 }  // namespace

@@ -55,8 +55,9 @@ void ExpectPlainKey(const std::vector<PlainWord>& words, int key) {
     }
     HandleKeyDown(key);
     ASSERT_TRUE(grid == std::string(PlayerGrid, maxCells));
-    ASSERT_EQ(CursorRow, word.row + (Direction == 1 ? position : 0));
-    ASSERT_EQ(CursorCol, word.col + (Direction == 0 ? position : 0));
+    ASSERT_EQ(std::pair(CursorRow, CursorCol),
+              std::pair(word.row + (Direction == 1 ? position : 0),
+                        word.col + (Direction == 0 ? position : 0)));
 }
 
 }  // namespace

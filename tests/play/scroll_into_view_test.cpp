@@ -2,24 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/types.h"
 #include "support/boards.h"
 #include "support/without_window.h"
 
 namespace {
 
-struct Point {
-    int x;
-    int y;
-    bool operator==(const Point&) const = default;
-};
-
 // The rules in pixels, one long list, for the word from `first` to `last` of the selected cell.
-Point PlainScroll(const PlainWord& word) {
+POINT PlainScroll(const PlainWord& word) {
     const int left = CursorCol * CellSize;
     const int right = left + CellSize;
     const int top = CursorRow * CellSize;
     const int bottom = top + CellSize;
-    Point scroll{ScrollX, ScrollY};
+    POINT scroll{ScrollX, ScrollY};
     if (Direction == 0) {
         const int start = word.col * CellSize;
         const int end = start + word.length * CellSize;
@@ -75,9 +70,8 @@ TEST(ScrollIntoView, AgreesWithTheRulesInPixels) {
         CursorCol = upTo(PuzzleWidth - 1);
         Direction = upTo(1);
         SCOPED_TRACE("seed " + std::to_string(seed));
-        const Point expected = PlainScroll(WordAt(WordsOf(rows), CursorRow, CursorCol, Direction));
+        const POINT expected = PlainScroll(WordAt(WordsOf(rows), CursorRow, CursorCol, Direction));
         ScrollIntoView();
-        ASSERT_EQ(ScrollX, expected.x);
-        ASSERT_EQ(ScrollY, expected.y);
+        ASSERT_EQ(std::pair(ScrollX, ScrollY), std::pair(int{expected.x}, int{expected.y}));
     }
 }

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QTimer>
-#include <QtGui/QMouseEvent>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
@@ -83,13 +83,7 @@ QWidget* OpenDialog::Widget(int control) const {
 }
 
 void OpenDialog::Drag(QWidget* widget, QPointF from, QPointF to) {
-    for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-        const QPointF place = held == Qt::LeftButton ? from : to;
-        QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton, held,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(widget, &event);
-    }
+    DragOver(widget, from, to);
     handheld.Settle();
 }
 
@@ -104,6 +98,7 @@ void OpenDialog::Tap(int control) {
 void OpenDialog::Click(QWidget* widget, QPointF place) {
     Drag(widget, place, place);
 }
+
 void OpenDialog::TapLine(int list, int line) {
     auto* widget = qobject_cast<QListWidget*>(Widget(list));
     ASSERT_LT(line, widget->count());

@@ -16,7 +16,6 @@
 #include "platform/qt/soft_input_panel.h"
 #include "platform/qt/window.h"
 #include "resources/ids.h"
-#include "tools/puzzle_text.h"
 
 namespace {
 
@@ -24,13 +23,17 @@ ClientView* MainView() {
     return qobject_cast<ClientView*>(MainWindow->widget.data());
 }
 
+void SendMouse(QWidget* widget, QEvent::Type type, QPointF place, Qt::MouseButton button,
+               Qt::MouseButtons held) {
+    QMouseEvent event(type, place, widget->mapToGlobal(place), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
 void SendMouse(QEvent::Type type, POINT client, Qt::MouseButton button, Qt::MouseButtons held) {
-    ClientView* view = MainView();
     // The middle of the logical pixel, so that rounding cannot move it.
     const double magnification = Host().Magnification();
     const QPointF place((client.x + 0.5) * magnification, (client.y + 0.5) * magnification);
-    QMouseEvent event(type, place, view->mapToGlobal(place), button, held, Qt::NoModifier);
-    QCoreApplication::sendEvent(view, &event);
+    SendMouse(MainView(), type, place, button, held);
 }
 
 void SendPress(POINT point) {
@@ -195,12 +198,7 @@ void Handheld::PressPanelButton() {
 void Handheld::TapPanel(double x, double y) {
     auto* panel = Host().findChild<SoftInputPanel*>();
     const QPointF place = QPointF(x, y) * Host().Magnification();
-    for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-        QMouseEvent event(type, place, panel->mapToGlobal(place), Qt::LeftButton, held,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(panel, &event);
-    }
+    DragOver(panel, place, place);
     Settle();
 }
 
@@ -221,6 +219,11 @@ QImage Handheld::Client() {
     return MainWindow->surface->Image().copy();
 }
 
+void DragOver(QWidget* widget, QPointF from, QPointF to) {
+    SendMouse(widget, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    SendMouse(widget, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+}
+
 QImage BufferImage() {
     return ImageOf(OffscreenBuffer.context);
 }
@@ -237,11 +240,4 @@ void PrintTo(const QImage& image, std::ostream* out) {
 COLORREF ColorAt(const QImage& image, int x, int y) {
     const QRgb color = image.pixel(x, y);
     return RGB(qRed(color), qGreen(color), qBlue(color));
-}
-
-void PutPuzzle(const TemporaryHome& home, const std::string& name, const std::string& text) {
-    PuzzleTextError error;
-    const auto bytes = CompilePuzzle(text, error);
-    ASSERT_TRUE(bytes.has_value()) << name << ":" << error.line << ": " << error.reason;
-    WriteBytes(home.documents() / name, std::string(bytes->begin(), bytes->end()));
 }

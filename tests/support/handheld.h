@@ -8,6 +8,8 @@
 #include "platform/types.h"
 #include "support/temporary_home.h"
 
+class QWidget;
+
 class Handheld {
 public:
     // Starts the program with the screen at this magnification; its files are in the home.
@@ -58,11 +60,11 @@ public:
     QImage Client();
 };
 
+// The stylus touches one place of the widget and is lifted at another.
+void DragOver(QWidget* widget, QPointF from, QPointF to);
+
 // The off-screen buffer and any other context's surface, in device pixels.
 QImage BufferImage();
 QImage ImageOf(HDC context);
 void PrintTo(const QImage& image, std::ostream* out);
 COLORREF ColorAt(const QImage& image, int x, int y);
-
-// Compiles the text into a puzzle file of the home's documents.
-void PutPuzzle(const TemporaryHome& home, const std::string& name, const std::string& text);

@@ -11,6 +11,7 @@
 #include "app/view.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
+#include "platform/dialogs.h"
 #include "play/settings.h"
 #include "support/boards.h"
 #include "support/handheld.h"
@@ -92,13 +93,23 @@ protected:
         RepaintFully(MainWindow);
     }
 
-    // The clue bar, and the keyboard when it is there.
-    QImage BelowBoard() {
-        return handheld->Client().copy(0, ViewHeight, 240, BottomReserve);
+    void OpenPuzzle(const std::filesystem::path& file) {
+        ChooseNextFile(file);
+        AnswerNextMessageBox(IDYES);
+        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+        TakeShownMessages();
     }
-    void ExpectBufferOnScreen() {
-        EXPECT_EQ(handheld->Client().copy(0, 0, ViewWidth, ViewHeight),
-                  BufferImage().copy(ScrollX, ScrollY, ViewWidth, ViewHeight));
+    void Restart() {
+        handheld.reset();
+        ForgetPuzzle();
+        handheld = std::make_unique<Handheld>(home);
+    }
+
+    // Whatever is on the screen is what painting everything anew leaves there.
+    void ExpectFullRepaint() {
+        const QImage shown = handheld->Client();
+        RepaintFully(MainWindow);
+        EXPECT_EQ(handheld->Client(), shown);
     }
 
     TemporaryHome home;
