@@ -19,11 +19,13 @@ namespace {
 std::optional<std::string> ReadWholeFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     // A folder opens well, and fails only when it is read.
-    if (!file || std::filesystem::is_directory(path))
+    if (!file || std::filesystem::is_directory(path)) {
         return std::nullopt;
+    }
     std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (file.bad())
+    if (file.bad()) {
         return std::nullopt;
+    }
     return text;
 }
 
@@ -41,8 +43,9 @@ bool ReplaceFile(const std::string& path, const std::vector<unsigned char>& byte
     std::error_code problem;
     if (WriteBytes(temporary, bytes)) {
         std::filesystem::rename(temporary, path, problem);
-        if (!problem)
+        if (!problem) {
             return true;
+        }
     }
     std::filesystem::remove(temporary, problem);
     return false;
