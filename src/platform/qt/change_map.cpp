@@ -100,10 +100,9 @@ bool Touches(const RECT& area, const RECT& mark) {
            mark.top - markOverhang < area.bottom && mark.bottom + markOverhang > area.top;
 }
 
-ChangeMap::ChangeMap(QSize its)
-    : size(its),
-      columns(TilesFor(its.width())),
-      rows(TilesFor(its.height())),
+ChangeMap::ChangeMap(QSize size)
+    : columns(TilesFor(size.width())),
+      rows(TilesFor(size.height())),
       drawn(static_cast<size_t>(columns * rows), emptyTile),
       rendered(drawn.size(), unknownTile) {
 }
@@ -115,55 +114,64 @@ void ChangeMap::Restart() {
 void ChangeMap::Add(const Mark& mark) {
     Fingerprint fingerprint;
     std::visit([&](const auto& any) { fingerprint(any); }, mark);
-    const RECT& area = TouchedArea(mark);
-    const int lastColumn = TileAt(area.right + markOverhang - 1, columns);
-    const int lastRow = TileAt(area.bottom + markOverhang - 1, rows);
-    for (int row = TileAt(area.top - markOverhang, rows); row <= lastRow; ++row) {
-        for (int column = TileAt(area.left - markOverhang, columns); column <= lastColumn;
-             ++column) {
+    RECT area = TouchedArea(mark);
+    area = {area.left - markOverhang, area.top - markOverhang, area.right + markOverhang,
+            area.bottom + markOverhang};
+    const RECT tiles = TilesOf(area);
+    for (int row = tiles.top; row < tiles.bottom; ++row) {
+        for (int column = tiles.left; column < tiles.right; ++column) {
             std::uint64_t& tile = drawn[Index(column, row)];
             tile = Combine(tile, fingerprint.Value());
         }
     }
 }
 
-void ChangeMap::Accept() {
-    rendered = drawn;
+void ChangeMap::Accept(const RECT& area) {
+    const RECT tiles = TilesOf(area);
+    for (int row = tiles.top; row < tiles.bottom; ++row) {
+        const auto first = static_cast<std::ptrdiff_t>(Index(tiles.left, row));
+        std::copy_n(drawn.begin() + first, tiles.right - tiles.left, rendered.begin() + first);
+    }
 }
 
 void ChangeMap::Invalidate() {
     std::fill(rendered.begin(), rendered.end(), unknownTile);
 }
 
-std::vector<RECT> ChangeMap::ChangedAreas() const {
+RECT ChangeMap::TilesOf(const RECT& area) const {
+    return {TileAt(area.left, columns), TileAt(area.top, rows), TileAt(area.right - 1, columns) + 1,
+            TileAt(area.bottom - 1, rows) + 1};
+}
+
+std::vector<RECT> ChangeMap::ChangedAreas(const RECT& within) const {
     // Every area costs a walk over all marks.
     constexpr size_t mostAreas = 12;
+    const RECT tiles = TilesOf(within);
     std::vector<RECT> areas;
-    for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column) {
+    for (int row = tiles.top; row < tiles.bottom; ++row) {
+        for (int column = tiles.left; column < tiles.right; ++column) {
             if (!Changed(column, row)) {
                 continue;
             }
             const int first = column;
-            while (column < columns && Changed(column, row)) {
+            while (column < tiles.right && Changed(column, row)) {
                 ++column;
             }
             AddRun(areas, TileArea(first, row, column, row + 1));
         }
     }
-    return areas.size() > mostAreas ? std::vector<RECT>{ChangedBounds()} : areas;
+    return areas.size() > mostAreas ? std::vector<RECT>{ChangedBounds(tiles)} : areas;
 }
 
-RECT ChangeMap::ChangedBounds() const {
-    RECT bounds{size.width(), size.height(), 0, 0};
-    for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column) {
+RECT ChangeMap::ChangedBounds(const RECT& tiles) const {
+    RECT bounds{tiles.right, tiles.bottom, tiles.left, tiles.top};
+    for (int row = tiles.top; row < tiles.bottom; ++row) {
+        for (int column = tiles.left; column < tiles.right; ++column) {
             if (Changed(column, row)) {
-                const RECT tile = TileArea(column, row, column + 1, row + 1);
-                bounds = {std::min(bounds.left, tile.left), std::min(bounds.top, tile.top),
-                          std::max(bounds.right, tile.right), std::max(bounds.bottom, tile.bottom)};
+                bounds = {std::min(bounds.left, column), std::min(bounds.top, row),
+                          std::max(bounds.right, column + 1), std::max(bounds.bottom, row + 1)};
             }
         }
     }
-    return bounds;
+    return TileArea(bounds.left, bounds.top, bounds.right, bounds.bottom);
 }

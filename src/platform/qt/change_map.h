@@ -15,13 +15,14 @@ public:
     // Forgets all marks; what was rendered stays known.
     void Restart();
     void Add(const Mark& mark);
-    // Everything is rendered now.
-    void Accept();
+    // All tiles that the area touches are rendered now.
+    void Accept(const RECT& area);
     // Nothing is rendered any more.
     void Invalidate();
 
-    // The changed areas in logical pixels, few and without overlap; empty when nothing changed.
-    std::vector<RECT> ChangedAreas() const;
+    // The changed tiles among those that the area touches, in logical pixels: few areas without
+    // overlap; none when nothing changed.
+    std::vector<RECT> ChangedAreas(const RECT& within) const;
 
 private:
     bool Changed(int column, int row) const {
@@ -31,9 +32,10 @@ private:
         return static_cast<size_t>(row) * static_cast<size_t>(columns) +
                static_cast<size_t>(column);
     }
-    RECT ChangedBounds() const;
+    // Columns and rows instead of pixels; right and bottom are exclusive.
+    RECT TilesOf(const RECT& area) const;
+    RECT ChangedBounds(const RECT& tiles) const;
 
-    QSize size;
     int columns;
     int rows;
     std::vector<std::uint64_t> drawn;

@@ -16,6 +16,12 @@ constexpr size_t fewMarks = 256;
 
 constexpr QRgb white = qRgb(255, 255, 255);
 
+// At a fractional ratio the device pixels of a copy may begin or end in a neighbouring pixel.
+RECT SourceArea(const RECT& area, POINT source) {
+    return {source.x - 1, source.y - 1, source.x + area.right - area.left + 1,
+            source.y + area.bottom - area.top + 1};
+}
+
 QSize UsableSize(int width, int height) {
     return {std::max(width, 1), std::max(height, 1)};
 }
@@ -46,15 +52,15 @@ void Surface::Copy(const RECT& area, Surface& from, POINT source) {
         return;
     }
     Render();
-    const QImage& pixels = from.Image();
+    const QImage& pixels = from.ImageWithin(SourceArea(area, source));
     {
         QPainter painter(&image);
         CopyPixels(painter, scale, area, pixels, source);
     }
     Remember(CopyMark{area, source, from.picture});
     renderedMarks = picture->marks.size();
-    startedAnew = false;
-    changes.Accept();
+    rendered = Rendered::Marks;
+    changes.Accept(WholeArea(*picture));
     // An earlier copy that is hidden now would keep a whole picture alive.
     DropHiddenMarks();
 }
@@ -64,7 +70,7 @@ void Surface::Remember(Mark mark) {
         StartPicture({});
         marksWorthDropping = fewMarks;
         changes.Restart();
-        startedAnew = true;
+        rendered = Rendered::Nothing;
     } else if (picture.use_count() > 1) {
         // A copy elsewhere still needs the marks as they are.
         StartPicture(picture->marks);
@@ -73,7 +79,7 @@ void Surface::Remember(Mark mark) {
     picture->marks.push_back(std::move(mark));
     // While a picture is being painted anew its marks are not piling up, and half of it is no
     // sight worth rendering.
-    if (!startedAnew && picture->marks.size() > marksWorthDropping) {
+    if (rendered != Rendered::Nothing && picture->marks.size() > marksWorthDropping) {
         DropHiddenMarks();
     }
 }
@@ -88,7 +94,9 @@ void Surface::StartPicture(const std::vector<Mark>& marks) {
 
 // A window lives long and is drawn on piece by piece; without this its marks would pile up.
 void Surface::DropHiddenMarks() {
-    Render();
+    if (renderedMarks != picture->marks.size() && rendered == Rendered::Marks) {
+        rendered = Rendered::Tiles;
+    }
     constexpr size_t mostCovers = 16;
     std::vector<RECT> covers;
     std::vector<Mark> kept;
@@ -118,6 +126,11 @@ const QImage& Surface::Image() {
     return image;
 }
 
+const QImage& Surface::ImageWithin(const RECT& area) {
+    RenderWithin(area);
+    return image;
+}
+
 void Surface::Paint(QPainter& painter) {
     if (pixelsWanted) {
         painter.drawImage(0, 0, Image());
@@ -137,26 +150,27 @@ void Surface::RenderAll() {
 }
 
 void Surface::Render() {
-    const QSize size = picture->size;
+    RenderWithin(WholeArea(*picture));
+}
+
+void Surface::RenderWithin(const RECT& area) {
+    const RECT whole = WholeArea(*picture);
     pixelsWanted = true;
     if (image.isNull()) {
-        image = QImage(std::max(scale.At(size.width()), 1), std::max(scale.At(size.height()), 1),
+        image = QImage(std::max(scale.At(whole.right), 1), std::max(scale.At(whole.bottom), 1),
                        QImage::Format_RGB32);
-        if (NeedsGround(*picture)) {
-            image.fill(Qt::white);
-        }
-    } else if (!startedAnew && renderedMarks == picture->marks.size()) {
-        return;
     }
-    QPainter painter(&image);
-    if (startedAnew) {
-        RenderChanges(painter);
-    } else {
+    if (rendered != Rendered::Marks) {
+        QPainter painter(&image);
+        RenderChanges(painter, area);
+        changes.Accept(area);
+        rendered = Contains(area, whole) ? Rendered::Marks : Rendered::Tiles;
+    } else if (renderedMarks != picture->marks.size()) {
+        QPainter painter(&image);
         RenderNewMarks(painter);
+        changes.Accept(whole);
     }
     renderedMarks = picture->marks.size();
-    startedAnew = false;
-    changes.Accept();
 }
 
 void Surface::RenderNewMarks(QPainter& painter) {
@@ -167,9 +181,9 @@ void Surface::RenderNewMarks(QPainter& painter) {
 
 // Band by band: several marks lie on each pixel, and those of a large picture would have left the
 // processor's cache before the next mark comes.
-void Surface::RenderChanges(QPainter& painter) {
+void Surface::RenderChanges(QPainter& painter, const RECT& within) {
     constexpr int bandHeight = 72;  // logical pixels; the quickest of 24 to 144 for 40 by 40 cells
-    for (const RECT& area : changes.ChangedAreas()) {
+    for (const RECT& area : changes.ChangedAreas(within)) {
         RECT band = area;
         for (; band.top < area.bottom; band.top += bandHeight) {
             band.bottom = std::min(band.top + bandHeight, area.bottom);
@@ -180,6 +194,9 @@ void Surface::RenderChanges(QPainter& painter) {
 
 void Surface::RenderArea(QPainter& painter, const RECT& area) {
     painter.setClipRect(scale.Area(area));
+    if (NeedsGround(*picture)) {
+        painter.fillRect(scale.Area(area), Qt::white);
+    }
     for (const Mark& mark : picture->marks) {
         if (Touches(area, TouchedArea(mark))) {
             PaintMark(painter, scale, mark);
@@ -190,7 +207,7 @@ void Surface::RenderArea(QPainter& painter, const RECT& area) {
 void Surface::ForgetPixels() {
     image = {};
     changes.Invalidate();
-    startedAnew = true;
+    rendered = Rendered::Nothing;
 }
 
 void Surface::Resize(int width, int height) {

@@ -48,6 +48,9 @@ public:
 
     // The pixels with all that was drawn. Valid until the next call that draws.
     const QImage& Image();
+    // The same, of which the area, in logical pixels, is right at least: what nobody sees of a
+    // large board need not be rendered.
+    const QImage& ImageWithin(const RECT& area);
     // Paints the same; the first time straight from the marks, which is the quicker way to a frame
     // when there are no pixels yet. The painter's unit is a device pixel.
     void Paint(QPainter& painter);
@@ -67,17 +70,20 @@ private:
     void StartPicture(const std::vector<Mark>& marks);
     void DropHiddenMarks();
     void Render();
+    void RenderWithin(const RECT& area);
     void RenderNewMarks(QPainter& painter);
-    void RenderChanges(QPainter& painter);
+    void RenderChanges(QPainter& painter, const RECT& within);
     void RenderArea(QPainter& painter, const RECT& area);
 
     Scale scale;
     std::shared_ptr<Picture> picture;
     size_t marksWorthDropping;
     ChangeMap changes;
-    // Marks that are in the image already; meaningless while the picture has been started anew.
+    // What the image holds of the picture: nothing since it was started anew, the tiles that have
+    // not changed since, or all but the newest marks.
+    enum class Rendered { Nothing, Tiles, Marks };
+    Rendered rendered = Rendered::Nothing;
     size_t renderedMarks = 0;
-    bool startedAnew = true;
     bool pixelsWanted = false;
     QImage image;
 };
