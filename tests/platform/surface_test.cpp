@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr int width = 100;
-constexpr int height = 80;
+constexpr int width = 200;
+constexpr int height = 120;
 
 struct PlainPicture;
 
@@ -190,6 +190,41 @@ TEST_P(Surfaces, RememberAllThatCanBeSeenAtAnotherRatio) {
     for (double ratio : {3.0, 1.37, 2.5, 1.0}) {
         Surface::SetRatioOfAll(ratio);
         EXPECT_TRUE(IsRight());
+    }
+}
+
+// Of many marks those that are hidden are forgotten, drawn yet or not.
+TEST_P(Surfaces, TakeManySmallMarks) {
+    std::mt19937 random(GetParam() + 4000);
+    MarkMaker maker(random);
+    for (bool anew : {true, false, true}) {
+        if (anew) {
+            Draw(FillMark{{0, 0, width, height}, maker.Color()});
+        }
+        for (int i = 0; i < 600; ++i) {
+            const int left = maker.Below(width);
+            const int top = maker.Below(height);
+            Draw(FillMark{{left, top, left + 3, top + 3}, maker.Color()});
+        }
+        ASSERT_TRUE(IsRight());
+    }
+}
+
+// In so many places, like the squares of a chessboard, that they are rendered as one area.
+TEST_P(Surfaces, TakeScatteredMarks) {
+    constexpr int square = 24;
+    std::mt19937 random(GetParam() + 5000);
+    MarkMaker maker(random);
+    for (int step = 0; step < 3; ++step) {
+        Draw(FillMark{{0, 0, width, height}, 0xFFFFFFFF});
+        for (int row = 0; row < height / square; ++row) {
+            for (int col = row % 2; col < width / square; col += 2) {
+                const int left = col * square + 8;
+                const int top = row * square + 8;
+                Draw(FillMark{{left, top, left + 4, top + 4}, maker.Color()});
+            }
+        }
+        ASSERT_TRUE(IsRight());
     }
 }
 
