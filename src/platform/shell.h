@@ -90,5 +90,5 @@ struct SHRGINFO {
 };
 // Called at pen down: watches the stylus for up to 600 ms. GN_CONTEXTMENU when it stayed on the
 // spot (at once for a right click), and the pen up that ends the hold is then not delivered.
-// Else 0, and the stylus messages of the meantime are queued.
+// Else 0, and the stylus messages of the meantime are queued. Moves on the spot are none.
 DWORD SHRecognizeGesture(SHRGINFO* gesture);

@@ -91,18 +91,19 @@ TEST_F(Input, AskedToEndDuringAHoldTheProgramEnds) {
     EXPECT_EQ(TakeOpenedMenus(), 0);
 }
 
-TEST_F(Input, ATremblingHandHoldsAndAMovingOneDrags) {
-    handheld->TapCell(3, 5);
-    const auto [x, y] = MiddleOfTheCell();
-    handheld->PutDown({x, y});
-    handheld->MoveTo({x + 3, y - 2});
-    handheld->LiftAt({x + 2, y});
-    EXPECT_EQ(Direction, 0);
+TEST_F(Input, ATremblingHandHoldsOrTapsAndAMovingOneDrags) {
+    Play(BoardRows(20, std::string(20, 'A')), mediumSize);
+    handheld->Tap(100, 100);
+    handheld->PutDown({100, 100});
+    handheld->MoveTo({97, 98});
+    handheld->LiftAt({98, 100});
+    EXPECT_EQ(std::pair(Direction, ScrollX), std::pair(0, 0)) << "a hold";
 
-    handheld->PutDown({x, y});
-    handheld->MoveTo({x + 9, y});
-    handheld->LiftAt({x, y});
-    EXPECT_EQ(Direction, 1) << "a release after a drag is a tap";
+    handheld->PutDown({100, 100});
+    handheld->MoveTo({91, 100});
+    handheld->MoveTo({97, 100});
+    handheld->LiftAt({97, 100});
+    EXPECT_EQ(std::pair(Direction, ScrollX), std::pair(1, 3)) << "a release after a drag is a tap";
 }
 
 TEST_F(Input, RightClickSelectsAtOnceWithoutFlipping) {

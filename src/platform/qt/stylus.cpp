@@ -14,7 +14,8 @@
 namespace {
 
 constexpr int holdMilliseconds = 600;
-// A hand is never quite still; more than this is the start of a drag. Logical pixels.
+// A hand is never quite still; more than this is the start of a drag, and less is not told, so that
+// the board does not tremble along. Logical pixels.
 constexpr int holdTolerance = 4;
 
 struct Stylus {
@@ -61,9 +62,9 @@ void StylusMoved(HWND window, POINT point) {
     if (!stylus.down || stylus.swallowRelease) {
         return;
     }
-    Queue(window, WM_MOUSEMOVE, point);
-    if (Beyond(point, stylus.pressed)) {
+    if (stylus.moved || Beyond(point, stylus.pressed)) {
         stylus.moved = true;
+        Queue(window, WM_MOUSEMOVE, point);
         EndWatch();
     }
 }
