@@ -16,12 +16,12 @@ bool HoldsPuzzles(const QString& folder) {
 }
 
 // Copying fails where a file of that name is, so nothing is ever overwritten.
-void CopyPuzzles(const QString& pattern, const QString& folder) {
+void CopyPuzzles(const QStringList& names, const QString& folder) {
     if (HoldsPuzzles(folder)) {
         return;
     }
     QDir().mkpath(folder);
-    for (const QString& name : QDir(":/puzzles").entryList({pattern})) {
+    for (const QString& name : names) {
         const QString target = folder + '/' + name;
         if (QFile::copy(":/puzzles/" + name, target)) {
             QFile::setPermissions(
@@ -32,13 +32,21 @@ void CopyPuzzles(const QString& pattern, const QString& folder) {
 
 }  // namespace
 
+// No puzzle is put into both folders: the second one would be found without the letters that were
+// entered in the first.
 void PrepareFolders() {
     const QString programFolder = ProgramFolderOnHost();
     const bool hasState = QFile::exists(programFolder + "/quadrel.dat");
     QDir().mkpath(programFolder);
-    if (!hasState) {
-        const QString documents = DocumentsFolderOnHost();
-        CopyPuzzles("*.puz", documents + "/Quadrel Puzzles");
-        CopyPuzzles("*starter*.puz", documents);
+    if (hasState) {
+        return;
     }
+    const QString documents = DocumentsFolderOnHost();
+    const QStringList starters = QDir(":/puzzles").entryList({"*starter*.puz"});
+    QStringList puzzles = QDir(":/puzzles").entryList({"*.puz"});
+    if (!HoldsPuzzles(documents)) {
+        CopyPuzzles(starters, documents);
+        puzzles.removeIf([&](const QString& name) { return starters.contains(name); });
+    }
+    CopyPuzzles(puzzles, documents + "/Quadrel Puzzles");
 }
