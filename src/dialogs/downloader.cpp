@@ -71,7 +71,7 @@ bool ChosenFile::Close() {
     if (!CloseHandle(std::exchange(handle, INVALID_HANDLE_VALUE))) {
         return false;
     }
-    if (replacedSolution.empty() || SolutionOfFile(path) != replacedSolution) {
+    if (replacedSolution.empty() || !IsSamePuzzle(SolutionOfFile(path), replacedSolution)) {
         DeleteProgressOf(path);
     }
     return true;

@@ -66,14 +66,14 @@ inline std::array<const char*, maxClues> ClueTable = [] {
     return table;
 }();
 
-// Written by ParsePuzzle. The lists are in the order of the clue numbers and end at the first
-// record of -1, or with the array.
+// Written by ParsePuzzle; start-up empties Cells. The lists are in the order of the clue numbers
+// and end at the first record of -1, or with the array.
 inline CellRecord Cells[maxCells];
 inline WordRecord AcrossList[maxWords];
 inline WordRecord DownList[maxWords];
 
 // 1: ParsePuzzle takes PlayerGrid from the file. 0: PlayerGrid holds restored progress and is left
-// alone. Written by start-up and OpenPuzzleFile.
+// alone. Written by start-up, OpenPuzzleFile and ParseWithRestoredGrid.
 inline int ResetPlayerGrid = 1;
 
 // Takes a path buffer of 260 wide characters. False when the file cannot be opened, or when it is
@@ -86,10 +86,13 @@ bool ReadPuzzleFile(WCHAR* path);
 bool PeekPuzzleSize(const WCHAR* path, int* width, int* height);
 
 // The two size bytes and the solution: what makes two files the same puzzle, to which a player's
-// letters belong. Of a file that ReadPuzzleFile would read, empty for any other; and of the puzzle
-// in play, whose size must fit the arrays.
+// letters belong. Of a file that can be played, empty for any other; and of the puzzle in play,
+// whose size must fit the arrays.
 std::string SolutionOfFile(const WCHAR* path);
 std::string SolutionInPlay();
+// A solution that was corrected is the same puzzle's still; another one of the same size, and even
+// of the same black squares, has few letters in common.
+bool IsSamePuzzle(const std::string& solution, const std::string& other);
 
 // Builds the model from PuzzleImage and puts the selection on the top-left cell. Without a word, it
 // stops after the sizes when the puzzle is not square, and makes both sizes 15 when they are 0.

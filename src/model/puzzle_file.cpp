@@ -1,5 +1,7 @@
 #include <array>
 #include <cstring>
+#include <functional>
+#include <numeric>
 
 #include "model/file_start.h"
 #include "model/numbering.h"
@@ -70,7 +72,8 @@ bool PeekPuzzleSize(const WCHAR* path, int* width, int* height) {
 
 std::string SolutionOfFile(const WCHAR* path) {
     const Candidate candidate(path);
-    if (!candidate.IsPlayable()) {
+    if (!candidate.IsPlayable() || candidate.Width() != candidate.Height() ||
+        candidate.Width() == 0) {
         return {};
     }
     return Solution(candidate.Width(), candidate.Height(), candidate.bytes.data() + gridOffset);
@@ -78,4 +81,14 @@ std::string SolutionOfFile(const WCHAR* path) {
 
 std::string SolutionInPlay() {
     return Solution(PuzzleWidth, PuzzleHeight, SolutionGrid);
+}
+
+bool IsSamePuzzle(const std::string& solution, const std::string& other) {
+    if (solution.size() != other.size()) {
+        return false;
+    }
+    const std::size_t agreeing =
+        std::inner_product(solution.begin(), solution.end(), other.begin(), std::size_t{0},
+                           std::plus<>(), std::equal_to<>());
+    return 2 * agreeing > solution.size();
 }

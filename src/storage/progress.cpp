@@ -53,10 +53,10 @@ void PutColor(ProgressRecord& record, std::size_t offset, COLORREF color) {
 }
 
 // A download may have put another puzzle in the place of the one in play, whose letters must not be
-// found there. A file that cannot be read now may come back.
+// found there. A file that cannot be played now may come back.
 bool LettersHaveTheirPuzzle() {
     const std::string solution = SolutionOfFile(CurrentPuzzlePath);
-    return solution.empty() || solution == SolutionInPlay();
+    return solution.empty() || IsSamePuzzle(solution, SolutionInPlay());
 }
 
 // Returns the offset after the last cell. A file that is not square can leave sizes behind that no

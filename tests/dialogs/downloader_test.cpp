@@ -346,12 +346,24 @@ TEST_F(Replacing, ThePuzzleInPlayIsPlayedOnAndLeavesNoneToTheNextStart) {
     EXPECT_EQ(Magnification.Medium, 1) << "the settings are the player's";
 }
 
-TEST_F(Replacing, TheSamePuzzleKeepsItsLetters) {
-    Store(puzzle);
-    Restart();
-    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+TEST_F(Replacing, TheSamePuzzleKeepsItsLettersAndACorrectedOne) {
+    BoardRows corrected = squareBoard;
+    corrected[4][4] = 'Q';
+    for (const std::string& bytes : {puzzle, Titled(corrected, "The Sunday Puzzle No. 12")}) {
+        Store(bytes);
+        Restart();
+        EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+        OpenAnother();
+        Store(bytes);
+        OpenPuzzle(file);
+        EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+    }
+}
+
+TEST_F(Replacing, AFileThatCannotBePlayedTakesNoLetters) {
+    WriteBytes(file, PuzzleBytes(lopsidedBoard));
     OpenAnother();
-    Store(puzzle);
+    WriteBytes(file, puzzle);
     OpenPuzzle(file);
     EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
 }
