@@ -60,11 +60,11 @@ void ComputeLayout(HWND window) {
     CreateOffscreenBuffer(window, BufferWidth, BufferHeight);
 }
 
-void KeepBottomEdge(HWND window, int reserve) {
+void KeepBottomEdge(HWND window) {
     RECT client;
     GetClientRect(window, &client);
-    BottomReserve = reserve;
-    const int newHeight = client.bottom - reserve;
+    BottomReserve = clueBarReserve;
+    const int newHeight = client.bottom - clueBarReserve;
     const int scroll = ScrollY + (ViewHeight - newHeight);
     if (scroll >= 0) {
         ScrollY = scroll;

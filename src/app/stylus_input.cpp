@@ -70,7 +70,7 @@ void HandleTapAndHold(HWND window, WPARAM buttons, LPARAM point) {
                      HIWORD(packed), window, nullptr);
 }
 
-// The keys reach further down than the picture: a tap below it is a tap beside a key.
+// The area reaches further down than the picture: a tap below it is a tap beside a key.
 bool OnKeyboard(POINT point) {
     constexpr RECT tapArea{0, 225, 240, 298};
     return KeyboardVisible == 1 && PtInRect(&tapArea, point);

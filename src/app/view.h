@@ -9,8 +9,8 @@
 inline HWND MainWindow = nullptr;
 inline HWND MenuBar = nullptr;
 
-// Written by ComputeLayout; BottomReserve, ViewHeight and the scroll also by whatever raises or
-// lowers a keyboard, and the scroll by DragScroll and ScrollIntoView.
+// Written by start-up and ComputeLayout; BottomReserve, ViewHeight and the scroll also by whatever
+// raises or lowers a keyboard, and the scroll by DragScroll and ScrollIntoView.
 inline int CellSize = 1;
 inline int BoardLeft = 0;
 inline int BottomReserve = 0;
@@ -29,15 +29,15 @@ constexpr int keyboardReserve = 65;
 inline POINT StylusLast;
 inline POINT StylusNow;
 
-// 0 or 1. KeyboardVisible is written by the on-screen keyboard and by soft input panel changes,
-// ClueChosen by the clue list and WM_ACTIVATE, TapHoldActive by the pen down, ShowSolution by the
-// whole-puzzle hint and PaintBoard.
+// 0 or 1, and 0 at start-up. KeyboardVisible is written by the on-screen keyboard and by soft input
+// panel changes, ClueChosen by the clue list and WM_ACTIVATE, TapHoldActive by the pen down,
+// ShowSolution by the whole-puzzle hint and PaintBoard.
 inline int KeyboardVisible = 0;
 inline int ClueChosen = 0;
 inline int TapHoldActive = 0;
 inline int ShowSolution = 0;
 
-// Shell records, cleared and filled in before each call that takes them.
+// Shell records. Cleared before each call that takes them; QuerySipInfo has SipInfo filled in.
 inline SIPINFO SipInfo;
 inline SHACTIVATEINFO ShellActivateInfo;
 

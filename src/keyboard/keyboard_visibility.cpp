@@ -58,7 +58,7 @@ void LayOutWithoutKeyboard(HWND window) {
     if (Magnification.Small == 1) {
         LayOutSmallBoard(window);
     } else {
-        KeepBottomEdge(window, clueBarReserve);
+        KeepBottomEdge(window);
     }
     PaintClueBar(window);
     CopyViewToScreen(window);

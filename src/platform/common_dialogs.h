@@ -17,7 +17,8 @@ struct OPENFILENAMEW {
 };
 
 // FALSE when the player cancelled; the buffers are then unchanged. A name that has no device path
-// (a backslash in it, or more than 259 characters) is explained to the player, who chooses again.
+// (a backslash in it, or more than 259 bytes of UTF-8, the most that a record holds) is explained
+// to the player, who chooses again.
 BOOL GetOpenFileNameW(OPENFILENAMEW* request);
 
 // The same for a file to be written. The chooser opens in the folder of the path in lpstrFile, with

@@ -16,8 +16,6 @@ constexpr int OPAQUE = 2;
 constexpr DWORD SRCCOPY = 0x00CC0020;
 constexpr DWORD WHITENESS = 0x00FF0062;
 
-constexpr UINT DT_LEFT = 0x00;
-constexpr UINT DT_TOP = 0x00;
 constexpr UINT DT_CENTER = 0x01;
 constexpr UINT DT_VCENTER = 0x04;
 constexpr UINT DT_WORDBREAK = 0x10;
@@ -69,7 +67,8 @@ BOOL Rectangle(HDC context, int left, int top, int right, int bottom);
 BOOL RoundRect(HDC context, int left, int top, int right, int bottom, int width, int height);
 // Horizontal and vertical lines only: the program draws no others.
 BOOL Polyline(HDC context, const POINT* points, int count);
-// A count of -1 takes the text up to its zero. Returns the height drawn; text never leaves the box.
+// A count of -1 takes the text up to its zero. Text never leaves the box. Returns 0 when the
+// context has nothing to draw on, else 1: nobody asks for the height.
 int DrawTextW(HDC context, const WCHAR* text, int count, RECT* box, UINT format);
 
 // SRCCOPY only. What lies outside the source's bitmap is copied as white.

@@ -56,10 +56,6 @@ struct RECT {
     LONG bottom = 0;
 };
 
-constexpr void SetRect(RECT* rectangle, int left, int top, int right, int bottom) {
-    *rectangle = {left, top, right, bottom};
-}
-
 constexpr BOOL PtInRect(const RECT* rectangle, POINT point) {
     return point.x >= rectangle->left && point.x < rectangle->right && point.y >= rectangle->top &&
            point.y < rectangle->bottom;

@@ -9,7 +9,7 @@
 // The folder of the program file, with its trailing backslash. Written by start-up.
 inline WCHAR ProgramFolder[MAX_PATH];
 
-// Where downloads go, and where choosers open. Made by start-up.
+// Where downloads go. Made by start-up.
 inline constexpr std::u16string_view puzzlesFolder = u"\\My Documents\\Quadrel Puzzles";
 
 // Full path of the puzzle in play, empty while there is none; a failed read at start-up leaves its

@@ -288,7 +288,7 @@ BOOL Polyline(HDC context, const POINT* points, int count) {
 }
 
 int DrawTextW(HDC context, const WCHAR* text, int count, RECT* box, UINT format) {
-    if (context == nullptr || context->surface == nullptr) {
+    if (context == nullptr) {
         return 0;
     }
     TextMark mark{
@@ -299,9 +299,7 @@ int DrawTextW(HDC context, const WCHAR* text, int count, RECT* box, UINT format)
         ToQRgb(context->textColor),
         context->backgroundMode == OPAQUE,
         ToQRgb(context->backgroundColor)};
-    const int height = MeasureTextHeight(context->surface->PresentScale(), mark);
-    DrawOn(context, std::move(mark));
-    return height;
+    return DrawOn(context, std::move(mark));
 }
 
 BOOL BitBlt(HDC destination, int x, int y, int width, int height, HDC source, int sourceX,

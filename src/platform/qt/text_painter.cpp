@@ -74,7 +74,7 @@ QFont MakeFont(const FontChoice& choice, int pixelSize) {
     return font;
 }
 
-// The share of a character cell that is the em: the face's ascent and descent together are taller.
+// How high a character cell is for its em: the face's ascent and descent together.
 constexpr double cellPerEm = 1.117;
 // What letters, accents left aside, and brackets reach above and below the baseline.
 constexpr double solidAscentPerEm = 0.78;
@@ -325,11 +325,4 @@ void PaintText(QPainter& painter, const Scale& scale, const TextMark& mark) {
         lines.PaintLine(line, baseline);
         baseline += layout.pitch;
     }
-}
-
-int MeasureTextHeight(const Scale& scale, const TextMark& mark) {
-    const SizedFont& sized = FindSizedFont(mark.font, scale.ratio);
-    const Layout layout = LayOut(sized, mark, scale.Area(mark.box));
-    const auto lines = static_cast<int>(layout.lines.size());
-    return static_cast<int>(std::ceil(lines * layout.pitch / scale.ratio));
 }
