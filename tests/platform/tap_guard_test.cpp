@@ -51,6 +51,14 @@ protected:
     }
 };
 
+TEST_F(TapGuard, ATapCountsAsSoonAsTheGameIsThere) {
+    Restart();
+    Play(BoardRows(12, std::string(12, 'A')), smallSize);
+    const int cell = CellSelected();
+    Tap(away, 1000);
+    EXPECT_NE(CellSelected(), cell);
+}
+
 TEST_F(TapGuard, QuickTapsOnTheSameGroundAllCount) {
     Tap(first, 1000);
     const int cell = CellSelected();

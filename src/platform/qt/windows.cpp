@@ -80,8 +80,11 @@ void PutOnTop(HWND window, const RECT& frame, ClientView* view) {
     window->surface = std::make_unique<Surface>(Width(frame), Height(frame));
     window->widget = view;
     window->toldPanelUp = Host().PanelUp();
+    // The first one covers nothing that a tap could have been meant for.
+    if (!windows.empty()) {
+        GroundChanged();
+    }
     windows.push_back(window);
-    GroundChanged();
     Host().AddView(view);
     Host().ShowTitle(window->title);
 }
