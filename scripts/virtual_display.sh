@@ -26,6 +26,8 @@ open_display() {
     await 20 test -s "$folder/display" || return 1
     DISPLAY=:$(<"$folder/display")
     export DISPLAY
+    # On a busy machine it may answer only some time after it has told its number.
+    await 20 xdotool getdisplaygeometry >/dev/null 2>&1 || return 1
     openbox >"$folder/openbox.log" 2>&1 &
     window_manager=$!
     await 20 xdotool get_num_desktops >/dev/null 2>&1
