@@ -1,6 +1,5 @@
 #include "tools/puzzle_characters.h"
 
-#include <array>
 #include <cstddef>
 
 #include "platform/text.h"
