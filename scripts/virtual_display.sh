@@ -20,7 +20,7 @@ open_display() {
     unset WAYLAND_DISPLAY SESSION_MANAGER DBUS_SESSION_BUS_ADDRESS QT_QPA_PLATFORMTHEME \
         QT_SCALE_FACTOR QT_STYLE_OVERRIDE XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME
     # The server chooses a free number itself and tells it.
-    Xvfb -displayfd 3 -screen 0 1280x1040x24 -nolisten tcp 3>"$folder/display" \
+    Xvfb -displayfd 3 -noreset -screen 0 1280x1040x24 -nolisten tcp 3>"$folder/display" \
         2>"$folder/xvfb.log" &
     display_server=$!
     await 20 test -s "$folder/display" || return 1
