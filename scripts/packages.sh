@@ -2,7 +2,12 @@
 # To be sourced.
 
 build_packages=(cmake ninja-build g++ qt6-base-dev zlib1g-dev)
-run_packages=(libqt6svg6 fonts-liberation fonts-dejavu-core qt6-wayland ca-certificates)
+# Up to Debian 12 the toolkit's plugin for SVG lies in its library's package.
+svg_plugin=qt6-svg-plugins
+if grep -qsxF VERSION_CODENAME=bookworm /etc/os-release; then
+    svg_plugin=libqt6svg6
+fi
+run_packages=("$svg_plugin" fonts-liberation fonts-dejavu-core qt6-wayland ca-certificates)
 test_packages=(libgtest-dev xvfb xdotool openbox imagemagick openssl)
 
 missing_packages() {
