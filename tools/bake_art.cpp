@@ -8,7 +8,7 @@
 #include <QtCore/QFileInfo>
 #include <cstdio>
 
-#include "platform/qt/svg.h"
+#include "platform/qt/look/svg.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 
-#include "platform/qt/window.h"
+#include "platform/qt/window/window.h"
 #include "resources/ids.h"
 #include "support/dialogs.h"
 #include "support/menus.h"

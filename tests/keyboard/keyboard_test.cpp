@@ -7,7 +7,7 @@
 #include <map>
 
 #include "keyboard/keyboard_keys.h"
-#include "platform/qt/window.h"
+#include "platform/qt/window/window.h"
 #include "support/played_board.h"
 
 namespace {

@@ -1,11 +1,11 @@
-#include "platform/qt/art.h"
+#include "platform/qt/look/art.h"
 
 #include <gtest/gtest.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QResource>
 
-#include "platform/qt/svg.h"
+#include "platform/qt/look/svg.h"
 #include "support/handheld.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "platform/qt/surface.h"
+#include "platform/qt/surface/surface.h"
 #include "support/handheld.h"
 
 namespace {

@@ -13,9 +13,9 @@
 #include <set>
 
 #include "platform/dialogs.h"
-#include "platform/qt/endings.h"
-#include "platform/qt/help_window.h"
-#include "platform/qt/window.h"
+#include "platform/qt/help/help_window.h"
+#include "platform/qt/window/endings.h"
+#include "platform/qt/window/window.h"
 #include "support/opened_pages.h"
 #include "support/played_board.h"
 

@@ -1,6 +1,6 @@
 // A surface renders late, only what changed, and forgets what is hidden. All of that must never
 // show: against a picture that draws every mark at once and forgets nothing.
-#include "platform/qt/surface.h"
+#include "platform/qt/surface/surface.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/drawing.h"
-#include "platform/qt/mark_painter.h"
+#include "platform/qt/surface/mark_painter.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QtGui/QWindow>
 
 #include "platform/dialogs.h"
-#include "platform/qt/host_window.h"
-#include "platform/qt/window.h"
+#include "platform/qt/window/host_window.h"
+#include "platform/qt/window/window.h"
 #include "support/played_board.h"
 
 namespace {

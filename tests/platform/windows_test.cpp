@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/drawing.h"
-#include "platform/qt/message_queue.h"
-#include "platform/qt/window.h"
+#include "platform/qt/common/message_queue.h"
+#include "platform/qt/window/window.h"
 #include "platform/text.h"
 #include "support/played_board.h"
 

@@ -12,10 +12,10 @@
 #include <utility>
 
 #include "platform/dialogs.h"
-#include "platform/qt/dialog_view.h"
-#include "platform/qt/host_window.h"
-#include "platform/qt/title_bar.h"
-#include "platform/qt/window.h"
+#include "platform/qt/dialogs/dialog_view.h"
+#include "platform/qt/screen/title_bar.h"
+#include "platform/qt/window/host_window.h"
+#include "platform/qt/window/window.h"
 
 namespace {
 

@@ -9,12 +9,12 @@
 
 #include "app/view.h"
 #include "app/win_main.h"
-#include "platform/qt/client_view.h"
-#include "platform/qt/drawing_objects.h"
-#include "platform/qt/host_window.h"
-#include "platform/qt/message_queue.h"
-#include "platform/qt/soft_input_panel.h"
-#include "platform/qt/window.h"
+#include "platform/qt/common/message_queue.h"
+#include "platform/qt/screen/soft_input_panel.h"
+#include "platform/qt/surface/drawing_objects.h"
+#include "platform/qt/window/client_view.h"
+#include "platform/qt/window/host_window.h"
+#include "platform/qt/window/window.h"
 #include "resources/ids.h"
 
 namespace {

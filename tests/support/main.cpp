@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "platform/qt/bring_up.h"
+#include "platform/qt/process/bring_up.h"
 #include "support/boxes.h"
 #include "support/dialogs.h"
 

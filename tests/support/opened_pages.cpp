@@ -3,7 +3,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTextBrowser>
 
-#include "platform/qt/help_window.h"
+#include "platform/qt/help/help_window.h"
 #include "support/message_boxes.h"
 
 std::vector<HelpWindow*> ShownHelpWindows() {

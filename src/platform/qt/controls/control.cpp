@@ -1,0 +1,132 @@
+// What all controls of dialogs have in common.
+//
+// Supported: push, radio, check and group boxes, static texts and pictures, list boxes, tabs at the
+// bottom, edit boxes of one line. Left out: subclassing, owner drawing, styles that no dialog uses.
+#include "platform/qt/controls/control.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/dialogs.h"
+#include "platform/qt/common/dialog_units.h"
+#include "platform/qt/controls/dialog_look.h"
+#include "platform/qt/look/look.h"
+#include "platform/qt/surface/drawing_objects.h"
+#include "platform/qt/window/host_window.h"
+
+namespace {
+
+std::vector<Control*> controls;
+
+LRESULT AnswerForControl(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return static_cast<Control*>(window)->Answer(message, wParam, lParam);
+}
+
+// A positive height is the character cell, which is about 15 percent taller than the em.
+double EmOf(const FontChoice& choice) {
+    constexpr double cellPerEm = 1.15;
+    return choice.height < 0 ? -choice.height : choice.height / cellPerEm;
+}
+
+}  // namespace
+
+Control::Control(HWND owner, const ControlResource& described)
+    : dialog(owner), resource(described) {
+    procedure = AnswerForControl;
+    visible = true;
+    controls.push_back(this);
+}
+
+Control::~Control() {
+    controls.erase(std::find(controls.begin(), controls.end(), this));
+}
+
+Control* AsControl(HWND window) {
+    const auto found = std::find(controls.begin(), controls.end(), window);
+    return found == controls.end() ? nullptr : *found;
+}
+
+void Control::Show(QWidget* shown) {
+    widget = shown;
+    shown->setObjectName(QString::number(resource.id));
+    shown->show();
+}
+
+RECT Control::Area() const {
+    return DialogUnitsToPixels(resource);
+}
+
+double Control::Magnification() const {
+    return Host().Magnification();
+}
+
+void Control::Place() {
+    frame = Area();
+    if (font != nullptr) {
+        widget->setFont(BarFont(EmOf(font->font) * Magnification(), font->font.bold));
+    }
+    RECT onScreen = frame;
+    onScreen.left += dialog->frame.left;
+    onScreen.right += dialog->frame.left;
+    onScreen.top += dialog->frame.top;
+    onScreen.bottom += dialog->frame.top;
+    const QRect exact = Host().ExactPlace(onScreen).toRect();
+    widget->setGeometry(exact.translated(-widget->parentWidget()->pos()));
+}
+
+LRESULT Control::Answer(UINT message, WPARAM wParam, LPARAM) {
+    if (message == WM_SETFONT) {
+        font = reinterpret_cast<HFONT>(wParam);
+        Place();
+    } else if (message == WM_GETFONT) {
+        return reinterpret_cast<LRESULT>(font);
+    }
+    return 0;
+}
+
+QString Control::Text() const {
+    return {};
+}
+
+void Control::SetText(const QString&) {
+}
+
+void Control::Notify(int code) {
+    const auto what = static_cast<DWORD>(MAKELPARAM(resource.id, code));
+    SendMessageW(dialog, WM_COMMAND, what, reinterpret_cast<LPARAM>(static_cast<HWND>(this)));
+}
+
+HGDIOBJ Control::BrushFor(UINT colorMessage) {
+    const LRESULT answer =
+        SendMessageW(dialog, colorMessage, 0, reinterpret_cast<LPARAM>(static_cast<HWND>(this)));
+    return reinterpret_cast<HGDIOBJ>(answer);
+}
+
+BOOL EnableWindow(HWND window, BOOL enabled) {
+    if (!IsLiveWindow(window) || window->widget == nullptr) {
+        return FALSE;
+    }
+    const bool wasDisabled = !window->widget->isEnabled();
+    window->widget->setEnabled(enabled != FALSE);
+    return wasDisabled;
+}
+
+int GetWindowTextW(HWND window, WCHAR* buffer, int bufferSize) {
+    const Control* control = AsControl(window);
+    if (control == nullptr || bufferSize < 1) {
+        return 0;
+    }
+    const std::u16string text = control->Text().toStdU16String();
+    const size_t length = text.copy(buffer, static_cast<size_t>(bufferSize) - 1);
+    buffer[length] = 0;
+    return static_cast<int>(length);
+}
+
+BOOL SetWindowTextW(HWND window, const WCHAR* text) {
+    Control* control = AsControl(window);
+    if (control == nullptr) {
+        return FALSE;
+    }
+    control->SetText(QString::fromUtf16(text));
+    return TRUE;
+}

@@ -1,0 +1,200 @@
+// Files and folders.
+//
+// Supported: what files.h lists. Left out: sharing, attributes, seeking, appending, overlapped
+// operations, searching beyond the first match.
+#include "platform/files.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
+#include <cerrno>
+#include <memory>
+#include <string_view>
+
+#include "platform/qt/common/device_paths.h"
+#include "platform/qt/files/last_error.h"
+
+struct FileObject {
+    std::unique_ptr<QFile> reader;
+    std::unique_ptr<QSaveFile> writer;
+    DWORD writeError = 0;  // a write went wrong, so the old file stays
+};
+
+struct FindObject {};
+
+namespace {
+
+BOOL Fail(DWORD error) {
+    SetLastError(error);
+    return FALSE;
+}
+
+// The toolkit tells reasons as text only; what it lets through of the system's number is asked
+// after what can be seen from outside.
+DWORD ReasonNotOpened(const QString& path, int systemError) {
+    const QFileInfo file(path);
+    if (!QFileInfo(file.path()).isDir()) {
+        return ERROR_PATH_NOT_FOUND;
+    }
+    return file.isDir() ? ERROR_ACCESS_DENIED : ErrorOfSystem(systemError, ERROR_ACCESS_DENIED);
+}
+
+template <typename Device>
+bool Open(Device& device, QIODevice::OpenMode mode) {
+    errno = 0;
+    if (device.open(mode)) {
+        return true;
+    }
+    SetLastError(ReasonNotOpened(device.fileName(), errno));
+    return false;
+}
+
+std::unique_ptr<FileObject> OpenReader(const QString& path) {
+    if (!QFileInfo(path).isFile()) {
+        SetLastError(ReasonNotOpened(path, ENOENT));
+        return nullptr;
+    }
+    auto file = std::make_unique<FileObject>();
+    file->reader = std::make_unique<QFile>(path);
+    return Open(*file->reader, QIODevice::ReadOnly) ? std::move(file) : nullptr;
+}
+
+std::unique_ptr<FileObject> OpenWriter(const QString& path) {
+    auto file = std::make_unique<FileObject>();
+    file->writer = std::make_unique<QSaveFile>(path);
+    return Open(*file->writer, QIODevice::WriteOnly) ? std::move(file) : nullptr;
+}
+
+// Puts the file in its place; 0, or why it could not be.
+DWORD PutInPlace(QSaveFile& file) {
+    errno = 0;
+    // Flushed by itself first: a commit does not notice when the disk is full at its last flush.
+    if (file.flush() && file.commit()) {
+        return 0;
+    }
+    const int systemError = errno;
+    const bool folderIsThere = QFileInfo(QFileInfo(file.fileName()).path()).isDir();
+    return folderIsThere ? ErrorOfSystem(systemError, ERROR_GEN_FAILURE) : ERROR_PATH_NOT_FOUND;
+}
+
+bool FitsPath(const QString& name) {
+    return !name.contains('\\') && name.size() < MAX_PATH;
+}
+
+}  // namespace
+
+HANDLE CreateFileW(const WCHAR* path, DWORD access, DWORD, void*, DWORD disposition, DWORD,
+                   HANDLE) {
+    const auto hostPath = ToHostPath(path);
+    if (!hostPath) {
+        const bool tooLong = std::u16string_view(path).size() >= MAX_PATH;
+        SetLastError(tooLong ? ERROR_FILENAME_EXCED_RANGE : ERROR_INVALID_NAME);
+        return INVALID_HANDLE_VALUE;
+    }
+    if (access == GENERIC_READ && disposition == OPEN_EXISTING) {
+        return OpenReader(*hostPath).release();
+    }
+    if (access == GENERIC_WRITE && disposition == CREATE_ALWAYS) {
+        return OpenWriter(*hostPath).release();
+    }
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return INVALID_HANDLE_VALUE;
+}
+
+BOOL ReadFile(HANDLE file, void* buffer, DWORD size, DWORD* bytesRead, void*) {
+    *bytesRead = 0;
+    if (file == INVALID_HANDLE_VALUE || !file->reader) {
+        return Fail(ERROR_INVALID_HANDLE);
+    }
+    errno = 0;
+    const qint64 count = file->reader->read(static_cast<char*>(buffer), size);
+    if (count < 0) {
+        return Fail(ErrorOfSystem(errno, ERROR_GEN_FAILURE));
+    }
+    *bytesRead = static_cast<DWORD>(count);
+    return TRUE;
+}
+
+BOOL WriteFile(HANDLE file, const void* buffer, DWORD size, DWORD* bytesWritten, void*) {
+    *bytesWritten = 0;
+    if (file == INVALID_HANDLE_VALUE || !file->writer) {
+        return Fail(ERROR_INVALID_HANDLE);
+    }
+    errno = 0;
+    const qint64 count = file->writer->write(static_cast<const char*>(buffer), size);
+    if (count != size && file->writeError == 0) {
+        file->writeError = ErrorOfSystem(errno, ERROR_GEN_FAILURE);
+    }
+    *bytesWritten = count < 0 ? 0 : static_cast<DWORD>(count);
+    return file->writeError == 0 ? TRUE : Fail(file->writeError);
+}
+
+BOOL CloseHandle(HANDLE file) {
+    if (file == INVALID_HANDLE_VALUE) {
+        return Fail(ERROR_INVALID_HANDLE);
+    }
+    const std::unique_ptr<FileObject> closing(file);
+    DWORD error = closing->writeError;
+    if (closing->writer && error == 0) {
+        error = PutInPlace(*closing->writer);
+    }
+    return error == 0 ? TRUE : Fail(error);
+}
+
+BOOL DeleteFileW(const WCHAR* path) {
+    const auto hostPath = ToHostPath(path);
+    if (!hostPath) {
+        return Fail(ERROR_INVALID_NAME);
+    }
+    errno = ENOENT;
+    return (QFileInfo(*hostPath).isFile() && QFile::remove(*hostPath)) ||
+           Fail(ReasonNotOpened(*hostPath, errno));
+}
+
+BOOL CreateDirectoryW(const WCHAR* path, void*) {
+    const auto hostPath = ToHostPath(path);
+    if (!hostPath) {
+        return Fail(ERROR_INVALID_NAME);
+    }
+    if (QFileInfo::exists(*hostPath)) {
+        return Fail(ERROR_ALREADY_EXISTS);
+    }
+    errno = 0;
+    return QDir().mkpath(*hostPath) || Fail(ErrorOfSystem(errno, ERROR_ACCESS_DENIED));
+}
+
+HFIND FindFirstFileW(const WCHAR* pattern, WIN32_FIND_DATAW* data) {
+    SetLastError(ERROR_FILE_NOT_FOUND);
+    const auto hostPattern = ToHostPath(pattern);
+    if (!hostPattern) {
+        return nullptr;
+    }
+    const QFileInfo split(*hostPattern);
+    const auto entries =
+        QDir(split.path()).entryInfoList({split.fileName()}, QDir::Files | QDir::Dirs, QDir::Name);
+    for (const QFileInfo& entry : entries) {
+        if (FitsPath(entry.fileName())) {
+            const std::u16string name = entry.fileName().toStdU16String();
+            data->dwFileAttributes =
+                entry.isDir() ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_NORMAL;
+            data->cFileName[name.copy(data->cFileName, name.size())] = 0;
+            return new FindObject;
+        }
+    }
+    return nullptr;
+}
+
+BOOL FindClose(HFIND search) {
+    delete search;
+    return search != nullptr || Fail(ERROR_INVALID_HANDLE);
+}
+
+DWORD GetModuleFileNameW(HINSTANCE, WCHAR* buffer, DWORD size) {
+    constexpr std::u16string_view path = u"\\Program Files\\Quadrel\\Quadrel.exe";
+    if (size <= path.size()) {
+        return 0;
+    }
+    buffer[path.copy(buffer, path.size())] = 0;
+    return static_cast<DWORD>(path.size());
+}

@@ -1,0 +1,52 @@
+// Strings, dialogs and icons by number.
+#include "platform/resources.h"
+
+#include <algorithm>
+#include <deque>
+#include <string_view>
+
+#include "platform/qt/look/art.h"
+#include "platform/qt/look/icon_object.h"
+
+int LoadStringW(HINSTANCE instance, UINT id, WCHAR* buffer, int bufferSize) {
+    const auto found = std::find_if(
+        instance->strings.begin(), instance->strings.end(),
+        [id](const StringResource& string) { return string.id == static_cast<int>(id); });
+    if (found == instance->strings.end() || bufferSize < 1) {
+        return 0;
+    }
+    std::u16string_view text(found->text);
+    text = text.substr(0, static_cast<size_t>(bufferSize) - 1);
+    buffer[text.copy(buffer, text.size())] = 0;
+    return static_cast<int>(text.size());
+}
+
+HRSRC FindResourceW(HINSTANCE instance, int id, int type) {
+    const auto found = std::find_if(instance->dialogs.begin(), instance->dialogs.end(),
+                                    [id](const DialogResource& dialog) { return dialog.id == id; });
+    return type != RT_DIALOG || found == instance->dialogs.end() ? nullptr : &*found;
+}
+
+HGLOBAL LoadResource(HINSTANCE, HRSRC resource) {
+    return resource;
+}
+
+HICON LoadIconW(HINSTANCE instance, int id) {
+    // Loaded icons are shared and live as long as the program.
+    static std::deque<IconObject> icons;
+    const auto found = std::find_if(instance->icons.begin(), instance->icons.end(),
+                                    [id](const ArtResource& art) { return art.id == id; });
+    if (found == instance->icons.end()) {
+        return nullptr;
+    }
+    icons.push_back({&*found});
+    return &icons.back();
+}
+
+QIcon ToQIcon(HICON icon) {
+    QIcon result;
+    for (int size : {16, 32, 64, 128}) {
+        result.addPixmap(QPixmap::fromImage(RenderArt(icon->art->file, {size, size})));
+    }
+    return result;
+}

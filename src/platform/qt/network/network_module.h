@@ -1,0 +1,12 @@
+// Loading the network module, which lies beside the program file.
+#pragma once
+
+#include <QtCore/QString>
+
+#include "platform/qt/network/module/transfer.h"
+
+// The name of its file. Tests choose another one.
+inline QString networkModuleName = "libquadrel_network.so";
+
+// Null when the module or something that it needs is not there.
+StartTransferFunction* LoadNetworkModule();

@@ -1,0 +1,112 @@
+#include "platform/qt/network/waiting.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtCore/QTimer>
+
+#include "platform/errors.h"
+#include "platform/qt/network/busy_sign.h"
+#include "platform/qt/network/module/transfer.h"
+#include "platform/qt/window/endings.h"
+
+namespace {
+
+bool IsInput(QEvent::Type type) {
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::Wheel:
+        case QEvent::ContextMenu:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::TabletPress:
+        case QEvent::TabletMove:
+        case QEvent::TabletRelease:
+        case QEvent::NativeGesture:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::Shortcut:
+        case QEvent::InputMethod:
+        case QEvent::DragEnter:
+        case QEvent::Drop: return true;
+        default: return false;
+    }
+}
+
+// What the toolkit would only hold back reaches the program afterwards, when the player has long
+// given up tapping; so it is dropped.
+class InputDropper : public QObject {
+public:
+    InputDropper() {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        return IsInput(event->type());
+    }
+};
+
+class ShownSign {
+public:
+    explicit ShownSign(BusySign& shown) : sign(shown) {
+        sign.Begin();
+    }
+    ~ShownSign() {
+        sign.End();
+    }
+    ShownSign(const ShownSign&) = delete;
+    ShownSign& operator=(const ShownSign&) = delete;
+
+private:
+    BusySign& sign;
+};
+
+// Wakes the event loop up, too, when its time is over.
+class Silence {
+public:
+    explicit Silence(const Transfer& watched) : transfer(watched) {
+        timer.setSingleShot(true);
+        timer.start(longestSilence);
+    }
+    bool TooLong() {
+        if (heard != transfer.SignsOfLife()) {
+            heard = transfer.SignsOfLife();
+            timer.start(longestSilence);
+        }
+        return !timer.isActive();
+    }
+
+private:
+    const Transfer& transfer;
+    QTimer timer;
+    int heard = 0;
+};
+
+DWORD ReasonToGiveUp(Silence& silence) {
+    if (EndingAsked()) {
+        return ERROR_INTERNET_OPERATION_CANCELLED;
+    }
+    return silence.TooLong() ? ERROR_INTERNET_TIMEOUT : 0;
+}
+
+}  // namespace
+
+DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
+                    const std::function<bool()>& condition) {
+    const InputDropper dropper;
+    const ShownSign shown(sign);
+    Silence silence(transfer);
+    while (!transfer.Ended() && !condition()) {
+        const DWORD error = ReasonToGiveUp(silence);
+        if (error != 0) {
+            waitWasGivenUp = true;
+            return error;
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        sign.SetAmount(transfer.Received());
+    }
+    return EndingAsked() ? ERROR_INTERNET_OPERATION_CANCELLED : 0;
+}

@@ -1,0 +1,32 @@
+#include "platform/qt/process/bring_up.h"
+
+#include "platform/qt/files/first_start.h"
+#include "platform/qt/input/tap_guard.h"
+#include "platform/qt/look/font_warm_up.h"
+#include "platform/qt/window/endings.h"
+#include "platform/resources.h"
+#include "platform/windows.h"
+
+std::unique_ptr<QApplication> BringHandheldUp(int& argumentCount, char** arguments) {
+    WarmUpFonts();
+    // A whole device pixel ratio leaves every edge on a device pixel; the screen's own
+    // magnification takes care of the rest.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::Round);
+    auto application = std::make_unique<QApplication>(argumentCount, arguments);
+    WarmUpFontDatabase();
+    QApplication::setApplicationName("Quadrel");
+    QApplication::setDesktopFileName("quadrel");
+    QApplication::setQuitOnLastWindowClosed(false);
+    GuardTaps();
+    return application;
+}
+
+int RunProgram() {
+    WatchForEndings();
+    PrepareFolders();
+    WCHAR commandLine[] = u"";
+    const int exitCode = WinMain(&programResources, nullptr, commandLine, SW_SHOW);
+    AwaitFonts();
+    return exitCode;
+}

@@ -1,0 +1,334 @@
+#include "platform/qt/screen/menu_bar.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QToolTip>
+#include <algorithm>
+
+#include "platform/qt/input/key_codes.h"
+#include "platform/qt/look/art.h"
+#include "platform/qt/look/look.h"
+#include "platform/qt/screen/menu_object.h"
+#include "platform/qt/window/host_window.h"
+#include "platform/windows.h"
+
+namespace {
+
+// Nine buttons of the program and the panel's fill the 240 pixels.
+constexpr int buttonWidth = 24;
+constexpr int pictureSide = 16;
+constexpr ArtResource panelArt{0, "menu_sip.svg", pictureSide, pictureSide};
+
+const ArtResource* FindArt(HINSTANCE instance, int image) {
+    const auto& art = instance->menuBarArt;
+    const auto found = std::find_if(art.begin(), art.end(),
+                                    [image](const ArtResource& each) { return each.id == image; });
+    return found == art.end() ? nullptr : &*found;
+}
+
+// In device pixels.
+QSize PictureSize(const HostWindow& host) {
+    const int side = qRound(pictureSide * host.Magnification() * host.devicePixelRatioF());
+    return {side, side};
+}
+
+BarButton* Neighbour(const std::vector<BarButton*>& row, const QWidget* of, int step) {
+    const auto place = std::find(row.begin(), row.end(), of);
+    const auto count = static_cast<int>(row.size());
+    return row[static_cast<size_t>((static_cast<int>(place - row.begin()) + step + count) % count)];
+}
+
+}  // namespace
+
+BarButton::BarButton(QWidget* bar, HostWindow* parent, const ArtResource* picture, HMENU popup)
+    : QAbstractButton(bar), host(parent), art(picture), menu(popup) {
+    // A tap leaves the focus where it is; the keys of the menu bar give it to the buttons.
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void BarButton::keyPressEvent(QKeyEvent* event) {
+    auto* bar = qobject_cast<MenuBarWidget*>(parentWidget());
+    switch (event->modifiers() & Qt::ControlModifier ? 0 : event->key()) {
+        case Qt::Key_Left: bar->MoveFocus(-1); break;
+        case Qt::Key_Right: bar->MoveFocus(1); break;
+        case Qt::Key_Escape:
+        case Qt::Key_F10:
+        case Qt::Key_Alt: host->FocusProgram(); break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space: bar->PressByKey(this); break;
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            if (menu != nullptr) {
+                bar->PressByKey(this);
+                break;
+            }
+            [[fallthrough]];
+        default: HandToProgram(event);
+    }
+}
+
+// Whoever types on has done with the bar. A key that means nothing to the program, like a modifier
+// on its own, leaves the focus here.
+void BarButton::HandToProgram(QKeyEvent* event) {
+    if (VirtualKey(*event) == 0) {
+        event->ignore();
+        return;
+    }
+    host->FocusProgram();
+    if (QWidget* focus = host->focusWidget(); focus != this) {
+        QCoreApplication::sendEvent(focus, event);
+    }
+}
+
+bool BarButton::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        ShowTip();
+        return true;
+    }
+    return QAbstractButton::event(event);
+}
+
+// As large as the handheld's other texts, and above the bar: below the stylus it would cover the
+// picture that it explains.
+void BarButton::ShowTip() {
+    constexpr int pointerHeight = 24;  // by which the toolkit moves a tip down
+    const QFont font = BarFont(10 * host->Magnification(), false);
+    const int height = QFontMetrics(font).height() + qRound(6 * host->Magnification());
+    QToolTip::setFont(font);
+    QPalette colors;
+    colors.setColor(QPalette::ToolTipBase, Qt::white);
+    colors.setColor(QPalette::ToolTipText, inkColor);
+    QToolTip::setPalette(colors);
+    QToolTip::showText(mapToGlobal(QPoint(0, -height - pointerHeight)), toolTip(), this, rect());
+}
+
+void BarButton::enterEvent(QEnterEvent*) {
+    update();
+}
+
+void BarButton::leaveEvent(QEvent*) {
+    update();
+}
+
+void BarButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (isEnabled() && (isDown() || isChecked())) {
+        painter.fillRect(rect(), pressedColor);
+    } else if (isEnabled() && underMouse()) {
+        painter.fillRect(rect(), hoverColor);
+    }
+    if (hasFocus()) {
+        const int width = std::max(1, qRound(host->Magnification()));
+        painter.setPen(QPen(titleBarColor, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(QRectF(rect()).adjusted(width, width, -width, -width));
+    }
+    if (art == nullptr) {
+        return;
+    }
+    const double ratio = devicePixelRatioF();
+    const QSize pictureSize = PictureSize(*host);
+    const QSize free = size() * ratio - pictureSize;
+    QImage icon = RenderArt(art->file, pictureSize);
+    icon.setDevicePixelRatio(ratio);
+    constexpr double disabledOpacity = 0.35;
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
+    painter.drawImage(QPointF(free.width() / 2 / ratio, free.height() / 2 / ratio), icon);
+}
+
+MenuBarWidget::MenuBarWidget(HostWindow* parent) : QWidget(parent), host(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+bool MenuBarWidget::Open(HWND window, HINSTANCE instance, int id) {
+    const auto found = std::find_if(instance->menuBars.begin(), instance->menuBars.end(),
+                                    [id](const MenuBarResource& bar) { return bar.id == id; });
+    if (found == instance->menuBars.end()) {
+        return false;
+    }
+    owner = window;
+    barId = id;
+    for (const MenuBarButton& button : found->buttons) {
+        AddButton(button, instance);
+    }
+    AddPanelButton();
+    PlaceButtons();
+    RenderPicturesAhead(*found, instance);
+    return true;
+}
+
+void MenuBarWidget::RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const {
+    std::vector<const char*> files{panelArt.file};
+    for (const MenuBarButton& button : bar.buttons) {
+        if (const ArtResource* art = FindArt(instance, button.image)) {
+            files.push_back(art->file);
+        }
+    }
+    RenderArtAhead(files, PictureSize(*host));
+}
+
+void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance) {
+    HMENU menu = resource.popup == noPopup ? nullptr
+                                           : GetSubMenu(LoadMenuW(instance, barId), resource.popup);
+    auto* button = new BarButton(this, host, FindArt(instance, resource.image), menu);
+    const QString caption = QString::fromUtf16(resource.caption);
+    button->setToolTip(caption);
+    const int command = resource.command;
+    popups[command] = menu;
+    connect(button, &QAbstractButton::clicked, this, [this, button, command] {
+        PostMessageW(owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
+        OpenPopup(button);
+    });
+    button->show();
+    buttons.push_back(button);
+}
+
+void MenuBarWidget::NameButtons() {
+    for (BarButton* button : findChildren<BarButton*>(Qt::FindDirectChildrenOnly)) {
+        button->setAccessibleName(button->toolTip());
+    }
+}
+
+// Stands on the bar, above its button, inside the screen where it fits.
+void MenuBarWidget::OpenPopup(BarButton* button) {
+    if (button->Menu() == nullptr) {
+        return;
+    }
+    QMenu* popup = PopupOf(button->Menu(), owner);
+    popup->installEventFilter(this);
+    for (QMenu* submenu : popup->findChildren<QMenu*>()) {
+        submenu->installEventFilter(this);
+    }
+    openButton = button;
+    const QSize size = popup->sizeHint();
+    const int left = std::clamp(button->x(), 0, std::max(width() - size.width(), 0));
+    button->setDown(true);
+    connect(
+        popup, &QMenu::aboutToHide, button, [button] { button->setDown(false); },
+        Qt::SingleShotConnection);
+    popup->popup(mapToGlobal(QPoint(left, -size.height())));
+}
+
+void MenuBarWidget::PressByKey(BarButton* button) {
+    host->FocusProgram();
+    button->click();
+    if (button->Menu() != nullptr) {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QCoreApplication::sendEvent(PopupOf(button->Menu(), owner), &down);
+    }
+}
+
+void MenuBarWidget::OpenNeighbour(int step) {
+    std::vector<BarButton*> usable;
+    std::copy_if(buttons.begin(), buttons.end(), std::back_inserter(usable), [](BarButton* button) {
+        return button->isEnabled() && button->Menu() != nullptr;
+    });
+    ClosePopups();
+    PressByKey(Neighbour(usable, openButton, step));
+}
+
+// Left and Right open and close submenus; where there is none they go on to the next popup.
+bool MenuBarWidget::eventFilter(QObject* object, QEvent* event) {
+    const auto* menu = qobject_cast<QMenu*>(object);
+    if (event->type() != QEvent::KeyPress || menu == nullptr) {
+        return false;
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const QAction* selected = menu->activeAction();
+    const bool goesIn = selected != nullptr && selected->isEnabled() && selected->menu() != nullptr;
+    const bool goesOut = qobject_cast<QMenu*>(menu->parentWidget()) != nullptr;
+    if (key == Qt::Key_Right && !goesIn) {
+        OpenNeighbour(1);
+        return true;
+    }
+    if (key == Qt::Key_Left && !goesOut) {
+        OpenNeighbour(-1);
+        return true;
+    }
+    return false;
+}
+
+HMENU MenuBarWidget::MenuOfButton(int command) const {
+    const auto found = popups.find(command);
+    return found == popups.end() ? nullptr : found->second;
+}
+
+void MenuBarWidget::FocusFirstButton() {
+    for (BarButton* button : buttons) {
+        if (button->isEnabled()) {
+            button->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+void MenuBarWidget::MoveFocus(int step) {
+    std::vector<BarButton*> usable;
+    std::copy_if(buttons.begin(), buttons.end(), std::back_inserter(usable),
+                 [](BarButton* button) { return button->isEnabled(); });
+    if (panelButton != nullptr && panelButton->isVisible()) {
+        usable.push_back(panelButton);
+    }
+    Neighbour(usable, window()->focusWidget(), step)->setFocus(Qt::TabFocusReason);
+}
+
+void MenuBarWidget::AddPanelButton() {
+    panelButton = new BarButton(this, host, &panelArt);
+    panelButton->setCheckable(true);
+    panelButton->setToolTip("Keyboard");
+    connect(panelButton, &QAbstractButton::toggled, this,
+            [this](bool up) { host->SetPanelUp(up); });
+    panelButton->show();
+}
+
+void MenuBarWidget::Close() {
+    owner = nullptr;
+    openButton = nullptr;
+    for (BarButton* button : buttons) {
+        button->deleteLater();
+    }
+    buttons.clear();
+    popups.clear();
+    if (panelButton != nullptr) {
+        panelButton->deleteLater();
+        panelButton = nullptr;
+    }
+}
+
+void MenuBarWidget::ShowPanelButton(bool shown) {
+    if (panelButton != nullptr) {
+        panelButton->setVisible(shown);
+    }
+}
+
+void MenuBarWidget::ShowPanelState(bool up) {
+    if (panelButton != nullptr) {
+        panelButton->setChecked(up);
+    }
+}
+
+void MenuBarWidget::PlaceButtons() {
+    const double magnification = host->Magnification();
+    const auto at = [&](int index) { return qRound(index * buttonWidth * magnification); };
+    int index = 0;
+    for (BarButton* button : buttons) {
+        button->setGeometry(at(index), 0, at(index + 1) - at(index), height());
+        ++index;
+    }
+    if (panelButton != nullptr) {
+        const int left = width() - qRound(buttonWidth * magnification);
+        panelButton->setGeometry(left, 0, width() - left, height());
+    }
+}
+
+void MenuBarWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), barColor);
+    painter.fillRect(0, 0, width(), std::max(1, static_cast<int>(host->Magnification())),
+                     barEdgeColor);
+}
+
+void MenuBarWidget::resizeEvent(QResizeEvent*) {
+    PlaceButtons();
+}

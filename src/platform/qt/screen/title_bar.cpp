@@ -1,0 +1,92 @@
+#include "platform/qt/screen/title_bar.h"
+
+#include <QtGui/QPainter>
+#include <algorithm>
+
+#include "platform/dialogs.h"
+#include "platform/qt/look/look.h"
+#include "platform/qt/window/host_window.h"
+#include "platform/qt/window/window.h"
+
+namespace {
+
+// Logical pixels.
+constexpr double margin = 8;
+constexpr double doneWidth = 36;
+
+class DoneButton : public QAbstractButton {
+public:
+    DoneButton(TitleBar* bar, HostWindow* parent) : QAbstractButton(bar), host(parent) {
+        setText("OK");
+        setFocusPolicy(Qt::NoFocus);
+        setAccessibleName("OK");
+    }
+
+protected:
+    void enterEvent(QEnterEvent*) override {
+        update();
+    }
+    void leaveEvent(QEvent*) override {
+        update();
+    }
+
+    // A light pill with dark text; the whole button, which is as high as the bar, can be tapped.
+    void paintEvent(QPaintEvent*) override {
+        constexpr double inset = 4;
+        const double magnification = host->Magnification();
+        const int space = qRound(inset * magnification);
+        const QRect pill = rect().adjusted(0, space, -space, -space);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isDown() ? pressedColor : underMouse() ? hoverColor : titleTextColor);
+        painter.drawRoundedRect(pill, pill.height() / 2.0, pill.height() / 2.0);
+        painter.setPen(inkColor);
+        painter.setFont(BarFont(11 * magnification, true));
+        painter.drawText(pill, Qt::AlignCenter, text());
+    }
+
+private:
+    HostWindow* host;
+};
+
+}  // namespace
+
+TitleBar::TitleBar(HostWindow* parent) : QWidget(parent), host(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void TitleBar::SetTitle(const QString& text) {
+    title = text;
+    update();
+}
+
+void TitleBar::ShowDoneButton(bool shown) {
+    if (doneButton == nullptr) {
+        if (!shown) {
+            return;
+        }
+        doneButton = new DoneButton(this, host);
+        connect(doneButton, &QAbstractButton::clicked,
+                [] { SendMessageW(TopWindow(), WM_COMMAND, IDOK, 0); });
+        resizeEvent(nullptr);
+    }
+    doneButton->setVisible(shown);
+}
+
+void TitleBar::resizeEvent(QResizeEvent*) {
+    if (doneButton != nullptr) {
+        const int wide = qRound(doneWidth * host->Magnification());
+        doneButton->setGeometry(width() - wide, 0, wide, height());
+    }
+}
+
+void TitleBar::paintEvent(QPaintEvent*) {
+    const double magnification = host->Magnification();
+    QPainter painter(this);
+    painter.fillRect(rect(), titleBarColor);
+    painter.setFont(FontFor(title, BarFont(13 * magnification, true)));
+    painter.setPen(titleTextColor);
+    const auto inset = static_cast<int>(margin * magnification);
+    painter.drawText(rect().adjusted(inset, 0, -inset, 0), Qt::AlignVCenter | Qt::AlignLeft, title);
+}

@@ -1,0 +1,117 @@
+#include "platform/qt/window/endings.h"
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QtCore/QSocketNotifier>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QApplication>
+#include <csignal>
+
+#include "platform/qt/common/message_queue.h"
+#include "platform/qt/dialogs/dialog_box.h"
+#include "platform/qt/window/window.h"
+
+namespace {
+
+// A signal handler may do little more than write a byte; the event loop reads it.
+int signalPair[2] = {-1, -1};
+
+QtMessageHandler previousHandler = nullptr;
+bool endingAsked = false;
+
+void OnSignal(int) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = write(signalPair[0], &byte, 1);
+}
+
+void WatchSignals() {
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, signalPair) != 0) {
+        return;
+    }
+    auto* notifier = new QSocketNotifier(signalPair[1], QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, [] {
+        char bytes[16];
+        [[maybe_unused]] const auto count = read(signalPair[1], bytes, sizeof bytes);
+        AskProgramToEnd();
+    });
+    struct sigaction action = {};
+    action.sa_handler = OnSignal;
+    action.sa_flags = SA_RESTART;
+    for (int number : {SIGTERM, SIGINT, SIGHUP}) {
+        sigaction(number, &action, nullptr);
+    }
+}
+
+void CloseNow() {
+    if (HWND window = BottomWindow()) {
+        SendMessageW(window, WM_CLOSE, 0, 0);
+    }
+}
+
+// When the display server goes away, the toolkit says so and then ends the process on the spot.
+// These words are all the notice there is.
+void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    previousHandler(type, context, message);
+    if (message.startsWith("The X11 connection broke") ||
+        message.startsWith("The Wayland connection broke")) {
+        CloseNow();
+    }
+}
+
+void CloseEverythingAbove() {
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) {
+            break;
+        }
+    }
+    while (QWidget* modal = QApplication::activeModalWidget()) {
+        if (!modal->close()) {
+            break;
+        }
+    }
+}
+
+// The session waits for no queue: what is not written when this returns may be lost.
+void EndWithSession() {
+    if (InsideProcedure()) {
+        AskProgramToEnd();
+    } else {
+        CloseEverythingAbove();
+        CloseNow();
+    }
+}
+
+}  // namespace
+
+void WatchForEndings() {
+    WatchSignals();
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, EndWithSession,
+                     Qt::DirectConnection);
+    previousHandler = qInstallMessageHandler(OnToolkitMessage);
+}
+
+bool EndingAsked() {
+    return endingAsked;
+}
+
+void ForgetEnding() {
+    endingAsked = false;
+}
+
+void AskProgramToEnd() {
+    endingAsked = true;
+    CloseEverythingAbove();
+    CloseDialogs();
+    PostMessageW(BottomWindow(), WM_CLOSE, 0, 0);
+}
+
+void TellProgramMinimized() {
+    if (InsideProcedure()) {
+        AskProgramToEnd();
+    } else {
+        // A message of the help's window stands above no procedure.
+        CloseEverythingAbove();
+        SendMessageW(BottomWindow(), WM_SIZE, SIZE_MINIMIZED, 0);
+    }
+}

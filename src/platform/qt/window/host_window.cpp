@@ -1,0 +1,254 @@
+#include "platform/qt/window/host_window.h"
+
+#include <QtCore/QTimer>
+#include <QtCore/QtMath>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
+#include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
+#include <algorithm>
+#include <utility>
+
+#include "platform/menus.h"
+#include "platform/qt/common/message_queue.h"
+#include "platform/qt/look/art.h"
+#include "platform/qt/look/icon_object.h"
+#include "platform/qt/look/look.h"
+#include "platform/qt/screen/menu_bar.h"
+#include "platform/qt/screen/menu_object.h"
+#include "platform/qt/screen/soft_input_panel.h"
+#include "platform/qt/screen/title_bar.h"
+#include "platform/qt/window/client_view.h"
+#include "platform/qt/window/endings.h"
+#include "platform/qt/window/window.h"
+#include "platform/shell.h"
+
+namespace {
+
+LRESULT AnswerForMenuBar(HWND, UINT message, WPARAM, LPARAM lParam) {
+    return message == SHCMBM_GETSUBMENU ? Host().MenuOfButton(static_cast<int>(lParam)) : 0;
+}
+
+HWND MenuBarHandle() {
+    static Window handle;
+    handle.procedure = AnswerForMenuBar;
+    return &handle;
+}
+
+void Place(QWidget* widget, const QRectF& exact) {
+    widget->setGeometry(exact.toAlignedRect());
+}
+
+}  // namespace
+
+HostWindow& Host() {
+    // Outlives the application's own clean-up, since the program may still end windows then.
+    static auto* host = new HostWindow;
+    return *host;
+}
+
+bool IsMenuBar(HWND window) {
+    return window == MenuBarHandle();
+}
+
+HostWindow::HostWindow()
+    : titleBar(new TitleBar(this)),
+      menuBar(new MenuBarWidget(this)),
+      panel(new SoftInputPanel(this)) {
+    setMinimumSize(screenWidth, screenHeight);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    menuBar->hide();
+    panel->hide();
+    resize(StartSize());
+    FitScreen();
+}
+
+// The largest whole magnification that leaves the desktop around it in sight; a screen that is
+// not much larger than the handheld's is taken whole.
+QSize HostWindow::StartSize() const {
+    const QSize desktop = QGuiApplication::primaryScreen()->availableSize();
+    constexpr double most = 0.9;
+    const double fit =
+        std::min(desktop.width() * most / screenWidth, desktop.height() * most / screenHeight);
+    if (fit < 1) {
+        return desktop.expandedTo(minimumSize());
+    }
+    return QSize(screenWidth, screenHeight) * static_cast<int>(fit);
+}
+
+void HostWindow::AddView(ClientView* view) {
+    view->stackUnder(panel);
+    PlaceWidgets();
+}
+
+QRectF HostWindow::ExactPlace(const RECT& area) const {
+    const double ratio = devicePixelRatioF();
+    const QRect device = Scale{magnification * ratio}.Area(area);
+    return QRectF(screenOrigin + QPointF(device.topLeft()) / ratio, QSizeF(device.size()) / ratio);
+}
+
+POINT HostWindow::LogicalPoint(QPointF point) const {
+    const QPointF logical = (point - screenOrigin) / magnification;
+    return {qFloor(logical.x()), qFloor(logical.y())};
+}
+
+void HostWindow::SetLook(const std::u16string& title, HICON icon) {
+    setWindowTitle(QString::fromStdU16String(title));
+    iconToShow = icon;
+}
+
+void HostWindow::ShowTitle(const std::u16string& title) {
+    titleBar->SetTitle(QString::fromStdU16String(title));
+    titleBar->ShowDoneButton(false);
+    PlaceWidgets();
+}
+
+void HostWindow::ShowDoneButton(bool shown) {
+    titleBar->ShowDoneButton(shown);
+}
+
+void HostWindow::EnableMenuBar(bool enabled) {
+    menuBar->setEnabled(enabled);
+}
+
+void HostWindow::FinishStart() {
+    if (HICON icon = std::exchange(iconToShow, nullptr)) {
+        QTimer::singleShot(0, this, [this, icon] {
+            QApplication::setWindowIcon(ToQIcon(icon));
+            menuBar->NameButtons();
+            Surface::RenderAll();
+        });
+    }
+}
+
+void HostWindow::ShowIfHidden() {
+    if (!isVisible()) {
+        FitScreen();
+        ShowBareFirst();
+    }
+}
+
+// For each widget that the toolkit shows it tells the session's aids for the disabled, and for the
+// first one it waits until it has found them. The window system is at work in the meantime.
+void HostWindow::ShowBareFirst() {
+    std::vector<QWidget*> inside;
+    for (QWidget* widget : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!widget->isHidden()) {
+            inside.push_back(widget);
+            widget->hide();
+        }
+    }
+    show();
+    for (QWidget* widget : inside) {
+        widget->show();
+    }
+}
+
+void HostWindow::ComeForward() {
+    if (isMinimized()) {
+        showNormal();
+    }
+    raise();
+    activateWindow();
+}
+
+void HostWindow::FitScreen() {
+    const double ratio = devicePixelRatioF();
+    magnification = std::min(width() / double(screenWidth), height() / double(screenHeight));
+    const QSizeF screen(screenWidth * magnification, screenHeight * magnification);
+    // On a whole device pixel, so that nothing on the screen is blurred.
+    screenOrigin = QPointF(qFloor((width() - screen.width()) / 2 * ratio) / ratio,
+                           qFloor((height() - screen.height()) / 2 * ratio) / ratio);
+    Surface::SetRatioOfAll(magnification * ratio);
+    PlaceWidgets();
+}
+
+void HostWindow::PlaceWidgets() {
+    Place(titleBar, ExactPlace(titleBarArea));
+    Place(menuBar, ExactPlace(menuBarArea));
+    const bool inDialog = TopWindow() != nullptr && TopWindow()->isDialog;
+    Place(panel, ExactPlace(inDialog ? softInputPanelAreaOfDialogs : softInputPanelArea));
+    for (ClientView* view : findChildren<ClientView*>(Qt::FindDirectChildrenOnly)) {
+        Place(view, ExactPlace(view->ShownWindow()->frame));
+    }
+    update();
+}
+
+HWND HostWindow::OpenMenuBar(HWND owner, HINSTANCE instance, int id) {
+    if (menuBar->IsOpen() || !menuBar->Open(owner, instance, id)) {
+        return nullptr;
+    }
+    menuBar->show();
+    return MenuBarHandle();
+}
+
+void HostWindow::CloseMenuBar() {
+    menuBar->Close();
+    menuBar->hide();
+}
+
+LRESULT HostWindow::MenuOfButton(int command) const {
+    return reinterpret_cast<LRESULT>(menuBar->MenuOfButton(command));
+}
+
+void HostWindow::FocusMenuBar() {
+    menuBar->FocusFirstButton();
+}
+
+void HostWindow::FocusProgram() {
+    if (HWND window = TopWindow()) {
+        window->widget->setFocus();
+    }
+}
+
+bool HostWindow::PanelUp() const {
+    return panel->isVisibleTo(this);
+}
+
+void HostWindow::SetPanelUp(bool up) {
+    if (up == PanelUp()) {
+        return;
+    }
+    panel->setVisible(up);
+    menuBar->ShowPanelState(up);
+    TellPanelChange(TopWindow());
+}
+
+void HostWindow::ShowPanelButton(bool shown) {
+    menuBar->ShowPanelButton(shown);
+}
+
+void HostWindow::resizeEvent(QResizeEvent*) {
+    // A popup has the size and the place that it was opened with.
+    ClosePopups();
+    FitScreen();
+}
+
+void HostWindow::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), letterboxColor);
+    painter.fillRect(ExactPlace({0, 0, screenWidth, screenHeight}), Qt::white);
+}
+
+// The window closes when the program destroys it, after everything is saved.
+void HostWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    AskProgramToEnd();
+}
+
+void HostWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        TellProgramMinimized();
+    }
+    QWidget::changeEvent(event);
+}
+
+bool HostWindow::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    // Moving to a screen of another density changes the ratio without a resize.
+    if (event->type() == QEvent::ScreenChangeInternal) {
+        FitScreen();
+    }
+    return handled;
+}
