@@ -3,8 +3,8 @@
 #include <QtCore/QEvent>
 
 #include "frame_end.h"
+#include "platform/qt/host/client_view.h"
 #include "platform/qt/process/bring_up.h"
-#include "platform/qt/window/client_view.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QtCore/QTimer>
 #include <chrono>
 
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "support/played_board.h"
 
 namespace {

@@ -12,7 +12,7 @@
 #include "keyboard/keyboard_drawing.h"
 #include "platform/dialogs.h"
 #include "platform/drawing.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 

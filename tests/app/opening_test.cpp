@@ -5,7 +5,7 @@
 
 #include "board/board_picture.h"
 #include "platform/dialogs.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "storage/paths.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/windows.h"
 #include "storage/paths.h"
 #include "support/menus.h"

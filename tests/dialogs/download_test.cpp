@@ -1,5 +1,5 @@
 #include "platform/dialogs.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "resources/ids.h"
 #include "support/downloads.h"
 #include "support/played_board.h"

@@ -4,10 +4,10 @@
 #include <optional>
 
 #include "platform/dialogs.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/network/network_module.h"
 #include "platform/qt/network/waiting.h"
-#include "platform/qt/window/endings.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/window/end_request.h"
 #include "storage/paths.h"
 #include "support/downloads.h"
 #include "support/no_space.h"

@@ -2,7 +2,7 @@
 
 #include "keyboard/keyboard_drawing.h"
 #include "keyboard/keyboard_visibility.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "resources/ids.h"
 #include "support/dialogs.h"
 #include "support/menus.h"

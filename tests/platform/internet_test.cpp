@@ -10,9 +10,9 @@
 
 #include "platform/dialogs.h"
 #include "platform/errors.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/network/busy_sign.h"
 #include "platform/qt/network/waiting.h"
-#include "platform/qt/window/host_window.h"
 #include "platform/text.h"
 #include "support/certificates.h"
 #include "support/played_board.h"

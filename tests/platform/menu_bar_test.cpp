@@ -4,7 +4,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 

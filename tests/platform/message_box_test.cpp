@@ -5,7 +5,7 @@
 #include <QtWidgets/QMessageBox>
 
 #include "platform/dialogs.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 

@@ -14,7 +14,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/qt/help/help_window.h"
-#include "platform/qt/window/endings.h"
+#include "platform/qt/window/end_request.h"
 #include "platform/qt/window/window.h"
 #include "support/opened_pages.h"
 #include "support/played_board.h"

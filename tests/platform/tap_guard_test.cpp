@@ -6,7 +6,8 @@
 #include <QtGui/QWindow>
 
 #include "platform/dialogs.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/common/screen_geometry.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/window/window.h"
 #include "support/played_board.h"
 
@@ -29,7 +30,7 @@ protected:
         const RECT frame = MainWindow->frame;
         const LONG x = frame.left + point.x;
         const LONG y = frame.top + point.y;
-        const QPointF place = Host().ExactPlace({x, y, x + 1, y + 1}).center();
+        const QPointF place = ExactPlace({x, y, x + 1, y + 1}).center();
         for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
             const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
             QMouseEvent event(type, place, Host().mapToGlobal(place), Qt::LeftButton, held,

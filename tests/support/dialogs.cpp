@@ -12,9 +12,10 @@
 #include <utility>
 
 #include "platform/dialogs.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/dialogs/dialog_view.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/screen/title_bar.h"
-#include "platform/qt/window/host_window.h"
 #include "platform/qt/window/window.h"
 
 namespace {
@@ -112,7 +113,7 @@ void OpenDialog::TapTab(int tabs, int tab) {
 }
 
 void OpenDialog::TapAt(int x, int y) {
-    const double magnification = Host().Magnification();
+    const double magnification = ScreenMagnification();
     Click(window->widget, QPointF((x + 0.5) * magnification, (y + 0.5) * magnification));
 }
 

@@ -10,10 +10,12 @@
 #include "app/view.h"
 #include "app/win_main.h"
 #include "platform/qt/common/message_queue.h"
+#include "platform/qt/common/screen_geometry.h"
+#include "platform/qt/common/screen_layout.h"
+#include "platform/qt/host/client_view.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/screen/soft_input_panel.h"
-#include "platform/qt/surface/drawing_objects.h"
-#include "platform/qt/window/client_view.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/surface/drawing_context.h"
 #include "platform/qt/window/window.h"
 #include "resources/ids.h"
 
@@ -31,7 +33,7 @@ void SendMouse(QWidget* widget, QEvent::Type type, QPointF place, Qt::MouseButto
 
 void SendMouse(QEvent::Type type, POINT client, Qt::MouseButton button, Qt::MouseButtons held) {
     // The middle of the logical pixel, so that rounding cannot move it.
-    const double magnification = Host().Magnification();
+    const double magnification = ScreenMagnification();
     const QPointF place((client.x + 0.5) * magnification, (client.y + 0.5) * magnification);
     SendMouse(MainView(), type, place, button, held);
 }
@@ -197,7 +199,7 @@ void Handheld::PressPanelButton() {
 
 void Handheld::TapPanel(double x, double y) {
     auto* panel = Host().findChild<SoftInputPanel*>();
-    const QPointF place = QPointF(x, y) * Host().Magnification();
+    const QPointF place = QPointF(x, y) * ScreenMagnification();
     DragOver(panel, place, place);
     Settle();
 }

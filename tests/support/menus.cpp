@@ -6,7 +6,7 @@
 #include <QtWidgets/QMenu>
 #include <utility>
 
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "support/message_boxes.h"
 
 NextMenu::NextMenu(std::function<void(QMenu*)> planned) : use(std::move(planned)) {

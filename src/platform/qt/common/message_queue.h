@@ -12,12 +12,13 @@ struct QueuedMessage {
 void PostMessage(const QueuedMessage& message);
 
 bool MessagesWaiting();
-
-// The message that GetMessageW returned last: what key and stylus state belong to.
+// Makes the oldest one the current one. Only while messages are waiting.
+const QueuedMessage& TakeMessage();
+// The one that was taken last: what key and stylus state belong to.
 const QueuedMessage& CurrentMessage();
 
-// Whether a window procedure is running, so that a new message would nest inside it.
-bool InsideProcedure();
+// A virtual key goes down, alone or with others held.
+bool IsKey(UINT message);
 
 void DropMessagesOf(HWND window);
 // Keys, stylus and commands only.

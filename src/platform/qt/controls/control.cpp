@@ -9,14 +9,12 @@
 
 #include "platform/dialogs.h"
 #include "platform/qt/common/dialog_units.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/controls/dialog_look.h"
 #include "platform/qt/look/look.h"
 #include "platform/qt/surface/drawing_objects.h"
-#include "platform/qt/window/host_window.h"
 
 namespace {
-
-std::vector<Control*> controls;
 
 LRESULT AnswerForControl(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return static_cast<Control*>(window)->Answer(message, wParam, lParam);
@@ -34,16 +32,15 @@ Control::Control(HWND owner, const ControlResource& described)
     : dialog(owner), resource(described) {
     procedure = AnswerForControl;
     visible = true;
-    controls.push_back(this);
+    AddChildWindow(this);
 }
 
 Control::~Control() {
-    controls.erase(std::find(controls.begin(), controls.end(), this));
+    RemoveChildWindow(this);
 }
 
 Control* AsControl(HWND window) {
-    const auto found = std::find(controls.begin(), controls.end(), window);
-    return found == controls.end() ? nullptr : *found;
+    return IsLiveWindow(window) ? dynamic_cast<Control*>(window) : nullptr;
 }
 
 void Control::Show(QWidget* shown) {
@@ -56,21 +53,17 @@ RECT Control::Area() const {
     return DialogUnitsToPixels(resource);
 }
 
-double Control::Magnification() const {
-    return Host().Magnification();
-}
-
 void Control::Place() {
     frame = Area();
     if (font != nullptr) {
-        widget->setFont(BarFont(EmOf(font->font) * Magnification(), font->font.bold));
+        widget->setFont(BarFont(EmOf(font->font) * ScreenMagnification(), font->font.bold));
     }
     RECT onScreen = frame;
     onScreen.left += dialog->frame.left;
     onScreen.right += dialog->frame.left;
     onScreen.top += dialog->frame.top;
     onScreen.bottom += dialog->frame.top;
-    const QRect exact = Host().ExactPlace(onScreen).toRect();
+    const QRect exact = ExactPlace(onScreen).toRect();
     widget->setGeometry(exact.translated(-widget->parentWidget()->pos()));
 }
 
@@ -100,15 +93,6 @@ HGDIOBJ Control::BrushFor(UINT colorMessage) {
     const LRESULT answer =
         SendMessageW(dialog, colorMessage, 0, reinterpret_cast<LPARAM>(static_cast<HWND>(this)));
     return reinterpret_cast<HGDIOBJ>(answer);
-}
-
-BOOL EnableWindow(HWND window, BOOL enabled) {
-    if (!IsLiveWindow(window) || window->widget == nullptr) {
-        return FALSE;
-    }
-    const bool wasDisabled = !window->widget->isEnabled();
-    window->widget->setEnabled(enabled != FALSE);
-    return wasDisabled;
 }
 
 int GetWindowTextW(HWND window, WCHAR* buffer, int bufferSize) {

@@ -10,7 +10,7 @@
 
 struct Control : Window {
     Control(HWND dialog, const ControlResource& resource);
-    virtual ~Control();
+    ~Control() override;
 
     // Takes the widget that shows it, and gives it the look that all controls share.
     void Show(QWidget* shown);
@@ -25,8 +25,6 @@ struct Control : Window {
     void Notify(int code);
     // The brush that the dialog wants for it, or null.
     HGDIOBJ BrushFor(UINT colorMessage);
-    // Logical pixels to the widget's.
-    double Magnification() const;
 
     HWND dialog;
     const ControlResource& resource;

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/dialogs.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/controls/control.h"
 #include "platform/qt/look/look.h"
 #include "platform/qt/surface/drawing_objects.h"
@@ -31,7 +32,7 @@ protected:
             return;
         }
         QPainter painter(this);
-        const int line = std::max(1, qRound(control->Magnification()));
+        const int line = std::max(1, qRound(ScreenMagnification()));
         painter.fillRect(rect(), hasFocus() || underMouse() ? titleBarColor : inkColor);
         painter.fillRect(rect().adjusted(line, line, -line, -line), Qt::white);
         painter.fillRect(rect().adjusted(2 * line, 2 * line, -2 * line, -2 * line),

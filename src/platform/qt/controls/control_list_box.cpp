@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/controls/control.h"
 #include "platform/qt/controls/dialog_look.h"
 #include "platform/qt/controls/list_widget.h"
@@ -35,7 +36,8 @@ struct ListBox : Control {
 
     void Place() override {
         Control::Place();
-        List()->SetMeasures(qRound(rowHeight * Magnification()), qRound(extent * Magnification()));
+        List()->SetMeasures(qRound(rowHeight * ScreenMagnification()),
+                            qRound(extent * ScreenMagnification()));
     }
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {

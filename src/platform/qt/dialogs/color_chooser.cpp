@@ -7,8 +7,8 @@
 #include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
 #include "platform/qt/dialogs/modal.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/surface/drawing_objects.h"
-#include "platform/qt/window/host_window.h"
 #include "platform/qt/window/window.h"
 
 namespace {

@@ -18,8 +18,9 @@
 
 #include "platform/dialogs.h"
 #include "platform/qt/common/device_paths.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/dialogs/modal.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 
 namespace {
 
@@ -53,7 +54,7 @@ protected:
 };
 
 QSize ChooserSize(const QFileDialog& dialog) {
-    const QSizeF wanted = QSizeF(300, 220) * Host().Magnification();
+    const QSizeF wanted = QSizeF(300, 220) * ScreenMagnification();
     const QSizeF desktop = dialog.screen()->availableSize();
     constexpr double most = 0.9;
     return wanted.expandedTo(QSizeF(480, 360)).boundedTo(desktop * most).toSize();

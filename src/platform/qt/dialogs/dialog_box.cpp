@@ -2,8 +2,6 @@
 //
 // Supported: modal dialogs that fill the handheld's screen. Left out: modeless and nested child
 // dialogs, system fonts beyond the template's, mnemonics.
-#include "platform/qt/dialogs/dialog_box.h"
-
 #include <algorithm>
 #include <memory>
 #include <vector>
@@ -16,9 +14,11 @@
 #include "platform/qt/controls/control.h"
 #include "platform/qt/dialogs/color_chooser.h"
 #include "platform/qt/dialogs/dialog_view.h"
+#include "platform/qt/host/host_window.h"
+#include "platform/qt/host/window_stack.h"
 #include "platform/qt/surface/drawing_objects.h"
-#include "platform/qt/window/endings.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/window/end_request.h"
+#include "platform/qt/window/notices.h"
 #include "platform/windows.h"
 
 namespace {
@@ -89,6 +89,16 @@ RECT StartArea(const DialogResource& resource) {
     return {most.left, most.top,
             std::min<LONG>(most.right, most.left + PixelsAcross(resource.width)),
             std::min<LONG>(most.bottom, most.top + PixelsDown(resource.height))};
+}
+
+void CloseDialogs() {
+    const std::vector<Dialog*> present = dialogs;
+    for (auto dialog = present.rbegin(); dialog != present.rend(); ++dialog) {
+        SendMessageW((*dialog)->window, WM_COMMAND, IDOK, 0);
+        if (!(*dialog)->ended) {
+            EndDialog((*dialog)->window, -1);
+        }
+    }
 }
 
 void OpenDialog(Dialog& dialog, HINSTANCE instance, const DialogResource& resource) {
@@ -163,6 +173,7 @@ LRESULT DialogBoxIndirectParamW(HINSTANCE instance, HGLOBAL resource, HWND owner
     if (resource == nullptr || EndingAsked()) {
         return notOpened;
     }
+    closeOpenDialogs = CloseDialogs;
     DropInputOf(owner);
     SetActive(owner, false);
     EnableProgram(owner, false);
@@ -201,14 +212,4 @@ HWND GetDlgItem(HWND window, int id) {
 
 LRESULT SendDlgItemMessageW(HWND dialog, int id, UINT message, WPARAM wParam, LPARAM lParam) {
     return SendMessageW(GetDlgItem(dialog, id), message, wParam, lParam);
-}
-
-void CloseDialogs() {
-    const std::vector<Dialog*> present = dialogs;
-    for (auto dialog = present.rbegin(); dialog != present.rend(); ++dialog) {
-        SendMessageW((*dialog)->window, WM_COMMAND, IDOK, 0);
-        if (!(*dialog)->ended) {
-            EndDialog((*dialog)->window, -1);
-        }
-    }
 }

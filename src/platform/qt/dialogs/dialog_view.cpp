@@ -7,8 +7,9 @@
 #include <utility>
 
 #include "platform/dialogs.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/controls/dialog_look.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/windows.h"
 
 namespace {
@@ -24,8 +25,8 @@ bool TakesTab(const QWidget* widget) {
 
 }  // namespace
 
-DialogView::DialogView(HostWindow* parent, HWND dialog, std::function<void()> place)
-    : ClientView(parent, dialog), placeControls(std::move(place)) {
+DialogView::DialogView(QWidget* host, HWND dialog, std::function<void()> place)
+    : ClientView(host, dialog), placeControls(std::move(place)) {
     // A tap beside the controls leaves the focus where it is.
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_InputMethodEnabled, false);
@@ -61,7 +62,7 @@ bool DialogView::focusNextPrevChild(bool next) {
 }
 
 void DialogView::resizeEvent(QResizeEvent*) {
-    setStyleSheet(DialogStyleSheet(Host().Magnification()));
+    setStyleSheet(DialogStyleSheet(ScreenMagnification()));
     placeControls();
 }
 

@@ -3,13 +3,13 @@
 
 #include <functional>
 
-#include "platform/qt/window/client_view.h"
+#include "platform/qt/host/client_view.h"
 
 class DialogView : public ClientView {
     Q_OBJECT
 
 public:
-    DialogView(HostWindow* host, HWND dialog, std::function<void()> placeControls);
+    DialogView(QWidget* host, HWND dialog, std::function<void()> placeControls);
 
     // The control after or before the one that has the focus, around the ends.
     bool MoveFocus(bool forward);

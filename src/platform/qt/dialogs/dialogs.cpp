@@ -14,11 +14,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/common/screen_layout.h"
 #include "platform/qt/controls/dialog_look.h"
 #include "platform/qt/dialogs/modal.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/look/look.h"
-#include "platform/qt/window/host_window.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ constexpr int iconSide = 24;
 constexpr int iconGap = 8;
 
 int Magnified(int length) {
-    return qRound(length * Host().Magnification());
+    return qRound(length * ScreenMagnification());
 }
 
 // The toolkit's own icons come in a few sizes, the largest too small for a large screen.
@@ -88,7 +89,7 @@ void Dress(QMessageBox& box) {
     static auto* style = new BoxStyle;
     box.setStyle(style);
     box.setPalette(DialogPalette());
-    box.setStyleSheet(DialogStyleSheet(Host().Magnification()));
+    box.setStyleSheet(DialogStyleSheet(ScreenMagnification()));
 }
 
 bool HasIcon(const QMessageBox& box) {

@@ -2,14 +2,14 @@
 
 #include <QtWidgets/QDialog>
 
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/input/tap_guard.h"
 #include "platform/qt/look/look.h"
-#include "platform/qt/window/endings.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/window/end_request.h"
 
 QFont ModalFont() {
     constexpr double em = 10;
-    return BarFont(em * Host().Magnification(), false);
+    return BarFont(em * ScreenMagnification(), false);
 }
 
 int RunModal(QDialog& dialog) {

@@ -9,9 +9,10 @@
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/help/help_page.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/look/look.h"
-#include "platform/qt/window/host_window.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ namespace {
 double TextEm() {
     constexpr double least = 15;
     constexpr double perMagnification = 5.5;
-    return std::max(least, perMagnification * Host().Magnification());
+    return std::max(least, perMagnification * ScreenMagnification());
 }
 
 // The colours of the help's own text are made for white paper, whatever the desktop's are.

@@ -6,10 +6,8 @@
 #include <cstdlib>
 
 #include "platform/qt/common/message_queue.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/input/hold_cue.h"
-#include "platform/qt/window/host_window.h"
-#include "platform/qt/window/window.h"
-#include "platform/shell.h"
 
 namespace {
 
@@ -84,32 +82,22 @@ void StylusReleased(HWND window, POINT point) {
 namespace {
 
 // Returns when the stylus has been held long enough, has moved away or was lifted.
-void WatchStylus(const SHRGINFO& gesture, int milliseconds) {
+void WatchStylus(QWidget* screen, QPointF point, int milliseconds) {
     QEventLoop watch;
     stylus.watch = &watch;
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &watch, &QEventLoop::quit);
-    const RECT frame = gesture.hwndClient->frame;
-    const LONG x = frame.left + gesture.ptDown.x;
-    const LONG y = frame.top + gesture.ptDown.y;
-    const HoldCue cue(&Host(), Host().ExactPlace({x, y, x + 1, y + 1}).center(),
-                      Host().Magnification(), milliseconds);
+    const HoldCue cue(screen, point, ScreenMagnification(), milliseconds);
     watch.exec();
     stylus.watch = nullptr;
 }
 
 }  // namespace
 
-DWORD SHRecognizeGesture(SHRGINFO* gesture) {
-    if (CurrentMessage().heldAtOnce) {
-        return GN_CONTEXTMENU;
-    }
+bool AwaitHold(QWidget* screen, QPointF point) {
     const auto left = static_cast<int>(holdMilliseconds - stylus.sincePress.elapsed());
     if (stylus.down && !stylus.moved && left > 0) {
-        WatchStylus(*gesture, left);
+        WatchStylus(screen, point, left);
     }
-    if (!stylus.down || stylus.moved) {
-        return 0;
-    }
-    stylus.swallowRelease = true;
-    return GN_CONTEXTMENU;
+    stylus.swallowRelease = stylus.down && !stylus.moved;
+    return stylus.swallowRelease;
 }

@@ -4,7 +4,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QApplication>
 
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/common/screen_geometry.h"
 
 namespace {
 
@@ -56,7 +56,7 @@ private:
     bool IsPair(const QMouseEvent& press) const {
         const QPointF way = press.globalPosition() - last.place;
         return press.timestamp() - last.time <= pairMilliseconds &&
-               way.manhattanLength() <= pairDistance * Host().Magnification();
+               way.manhattanLength() <= pairDistance * ScreenMagnification();
     }
 
     struct {

@@ -4,8 +4,9 @@
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
 
+#include "platform/qt/common/screen_geometry.h"
+#include "platform/qt/common/screen_layout.h"
 #include "platform/qt/look/look.h"
-#include "platform/qt/window/host_window.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ constexpr double wordsSize = 11;
 
 }  // namespace
 
-BusySign::BusySign(HostWindow* parent) : QWidget(parent), host(parent) {
+BusySign::BusySign(QWidget* host) : QWidget(host) {
     hide();
     connect(&frames, &QTimer::timeout, this, &BusySign::ShowFrame);
 }
@@ -58,14 +59,14 @@ void BusySign::ShowFrame() {
         return;
     }
     ++frame;
-    setGeometry(host->ExactPlace(signArea).toAlignedRect());
+    setGeometry(ExactPlace(signArea).toAlignedRect());
     raise();
     show();
     update();
 }
 
 void BusySign::paintEvent(QPaintEvent*) {
-    const double magnification = host->Magnification();
+    const double magnification = ScreenMagnification();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(magnification, magnification);

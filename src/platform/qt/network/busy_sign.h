@@ -5,8 +5,6 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
-class HostWindow;
-
 class BusySign : public QWidget {
     Q_OBJECT
 
@@ -14,7 +12,7 @@ public:
     // Waits shorter than this, all of one download together, do not show it.
     static constexpr int patienceMilliseconds = 300;
 
-    explicit BusySign(HostWindow* host);
+    explicit BusySign(QWidget* host);
 
     // Around each wait.
     void Begin();
@@ -30,7 +28,6 @@ private:
     void PaintWords(QPainter& painter) const;
     QString Words() const;
 
-    HostWindow* host;
     QTimer frames;
     QElapsedTimer wait;
     qint64 waitedBefore = 0;  // milliseconds

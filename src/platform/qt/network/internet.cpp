@@ -8,10 +8,10 @@
 #include <string>
 
 #include "platform/qt/files/last_error.h"
+#include "platform/qt/host/host_window.h"
 #include "platform/qt/network/busy_sign.h"
 #include "platform/qt/network/network_module.h"
 #include "platform/qt/network/waiting.h"
-#include "platform/qt/window/host_window.h"
 
 // A root has the function and the agent, a link has the rest.
 struct InternetObject {

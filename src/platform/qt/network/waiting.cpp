@@ -7,7 +7,7 @@
 #include "platform/errors.h"
 #include "platform/qt/network/busy_sign.h"
 #include "platform/qt/network/module/transfer.h"
-#include "platform/qt/window/endings.h"
+#include "platform/qt/window/end_request.h"
 
 namespace {
 

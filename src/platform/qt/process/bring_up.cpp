@@ -3,7 +3,7 @@
 #include "platform/qt/files/first_start.h"
 #include "platform/qt/input/tap_guard.h"
 #include "platform/qt/look/font_warm_up.h"
-#include "platform/qt/window/endings.h"
+#include "platform/qt/process/endings.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 

@@ -5,7 +5,7 @@
 
 #include "platform/qt/help/help_window.h"
 #include "platform/qt/help/web_browser.h"
-#include "platform/qt/window/endings.h"
+#include "platform/qt/window/end_request.h"
 
 BOOL CreateProcessW(const WCHAR* program, const WCHAR* commandLine, void*, void*, BOOL, DWORD,
                     void*, const WCHAR*, void*, void*) {

@@ -1,4 +1,4 @@
-#include "platform/qt/process/single_instance.h"
+// One instance for a user and a program folder: the first one listens on a local socket.
 
 #include <sys/socket.h>
 #include <sys/time.h>
@@ -16,8 +16,9 @@
 #include <thread>
 
 #include "platform/qt/common/device_paths.h"
-#include "platform/qt/window/endings.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
+#include "platform/qt/window/end_request.h"
+#include "platform/qt/window/notices.h"
 #include "platform/qt/window/window.h"
 
 namespace {
@@ -111,8 +112,9 @@ bool OtherComesForward(const Address& address) {
     return answered;
 }
 
-}  // namespace
-
+// True when this process is now the instance, or nobody can tell; false when another one is, which
+// has come forward to show it. Waits for one that is just ending, so that a start always leaves a
+// window on the screen.
 bool ClaimInstance(const WCHAR* className) {
     if (listener >= 0) {
         return true;
@@ -132,7 +134,35 @@ bool ClaimInstance(const WCHAR* className) {
     return true;
 }
 
+// Stands for the window of the other process.
 HWND OtherInstance() {
     static Window other;
     return &other;
+}
+
+}  // namespace
+
+HWND FindWindowW(const WCHAR* className, const WCHAR* title) {
+    for (HWND window : StackedWindows()) {
+        if (window->className == className && window->title == title) {
+            return window;
+        }
+    }
+    return ClaimInstance(className) ? nullptr : OtherInstance();
+}
+
+BOOL SetForegroundWindow(HWND window) {
+    // The lowest bit asks for the windows it owns, too; on one screen they come along anyway.
+    auto* plain =
+        reinterpret_cast<HWND>(reinterpret_cast<std::uintptr_t>(window) & ~std::uintptr_t{1});
+    if (plain == OtherInstance()) {
+        return TRUE;  // it came forward when it was found
+    }
+    if (!IsLiveWindow(plain)) {
+        return FALSE;
+    }
+    Host().ComeForward();
+    // What lies over it comes along and stays over it.
+    SetActive(TopWindow(), true);
+    return TRUE;
 }

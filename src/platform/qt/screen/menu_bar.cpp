@@ -3,34 +3,29 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
-#include <QtWidgets/QToolTip>
+#include <QtWidgets/QMenu>
 #include <algorithm>
 
-#include "platform/qt/input/key_codes.h"
+#include "platform/menus.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/look/art.h"
 #include "platform/qt/look/look.h"
-#include "platform/qt/screen/menu_object.h"
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/screen/bar_button.h"
+#include "platform/qt/screen/popups.h"
+#include "platform/qt/window/open_above.h"
 #include "platform/windows.h"
 
 namespace {
 
 // Nine buttons of the program and the panel's fill the 240 pixels.
 constexpr int buttonWidth = 24;
-constexpr int pictureSide = 16;
-constexpr ArtResource panelArt{0, "menu_sip.svg", pictureSide, pictureSide};
+constexpr ArtResource panelArt{0, "menu_sip.svg", barPictureSide, barPictureSide};
 
 const ArtResource* FindArt(HINSTANCE instance, int image) {
     const auto& art = instance->menuBarArt;
     const auto found = std::find_if(art.begin(), art.end(),
                                     [image](const ArtResource& each) { return each.id == image; });
     return found == art.end() ? nullptr : &*found;
-}
-
-// In device pixels.
-QSize PictureSize(const HostWindow& host) {
-    const int side = qRound(pictureSide * host.Magnification() * host.devicePixelRatioF());
-    return {side, side};
 }
 
 BarButton* Neighbour(const std::vector<BarButton*>& row, const QWidget* of, int step) {
@@ -41,103 +36,7 @@ BarButton* Neighbour(const std::vector<BarButton*>& row, const QWidget* of, int 
 
 }  // namespace
 
-BarButton::BarButton(QWidget* bar, HostWindow* parent, const ArtResource* picture, HMENU popup)
-    : QAbstractButton(bar), host(parent), art(picture), menu(popup) {
-    // A tap leaves the focus where it is; the keys of the menu bar give it to the buttons.
-    setFocusPolicy(Qt::TabFocus);
-}
-
-void BarButton::keyPressEvent(QKeyEvent* event) {
-    auto* bar = qobject_cast<MenuBarWidget*>(parentWidget());
-    switch (event->modifiers() & Qt::ControlModifier ? 0 : event->key()) {
-        case Qt::Key_Left: bar->MoveFocus(-1); break;
-        case Qt::Key_Right: bar->MoveFocus(1); break;
-        case Qt::Key_Escape:
-        case Qt::Key_F10:
-        case Qt::Key_Alt: host->FocusProgram(); break;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Space: bar->PressByKey(this); break;
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-            if (menu != nullptr) {
-                bar->PressByKey(this);
-                break;
-            }
-            [[fallthrough]];
-        default: HandToProgram(event);
-    }
-}
-
-// Whoever types on has done with the bar. A key that means nothing to the program, like a modifier
-// on its own, leaves the focus here.
-void BarButton::HandToProgram(QKeyEvent* event) {
-    if (VirtualKey(*event) == 0) {
-        event->ignore();
-        return;
-    }
-    host->FocusProgram();
-    if (QWidget* focus = host->focusWidget(); focus != this) {
-        QCoreApplication::sendEvent(focus, event);
-    }
-}
-
-bool BarButton::event(QEvent* event) {
-    if (event->type() == QEvent::ToolTip) {
-        ShowTip();
-        return true;
-    }
-    return QAbstractButton::event(event);
-}
-
-// As large as the handheld's other texts, and above the bar: below the stylus it would cover the
-// picture that it explains.
-void BarButton::ShowTip() {
-    constexpr int pointerHeight = 24;  // by which the toolkit moves a tip down
-    const QFont font = BarFont(10 * host->Magnification(), false);
-    const int height = QFontMetrics(font).height() + qRound(6 * host->Magnification());
-    QToolTip::setFont(font);
-    QPalette colors;
-    colors.setColor(QPalette::ToolTipBase, Qt::white);
-    colors.setColor(QPalette::ToolTipText, inkColor);
-    QToolTip::setPalette(colors);
-    QToolTip::showText(mapToGlobal(QPoint(0, -height - pointerHeight)), toolTip(), this, rect());
-}
-
-void BarButton::enterEvent(QEnterEvent*) {
-    update();
-}
-
-void BarButton::leaveEvent(QEvent*) {
-    update();
-}
-
-void BarButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    if (isEnabled() && (isDown() || isChecked())) {
-        painter.fillRect(rect(), pressedColor);
-    } else if (isEnabled() && underMouse()) {
-        painter.fillRect(rect(), hoverColor);
-    }
-    if (hasFocus()) {
-        const int width = std::max(1, qRound(host->Magnification()));
-        painter.setPen(QPen(titleBarColor, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter.drawRect(QRectF(rect()).adjusted(width, width, -width, -width));
-    }
-    if (art == nullptr) {
-        return;
-    }
-    const double ratio = devicePixelRatioF();
-    const QSize pictureSize = PictureSize(*host);
-    const QSize free = size() * ratio - pictureSize;
-    QImage icon = RenderArt(art->file, pictureSize);
-    icon.setDevicePixelRatio(ratio);
-    constexpr double disabledOpacity = 0.35;
-    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
-    painter.drawImage(QPointF(free.width() / 2 / ratio, free.height() / 2 / ratio), icon);
-}
-
-MenuBarWidget::MenuBarWidget(HostWindow* parent) : QWidget(parent), host(parent) {
+MenuBarWidget::MenuBarWidget(QWidget* host) : QWidget(host) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -165,13 +64,13 @@ void MenuBarWidget::RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE in
             files.push_back(art->file);
         }
     }
-    RenderArtAhead(files, PictureSize(*host));
+    RenderArtAhead(files, PictureSize(*this));
 }
 
 void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance) {
     HMENU menu = resource.popup == noPopup ? nullptr
                                            : GetSubMenu(LoadMenuW(instance, barId), resource.popup);
-    auto* button = new BarButton(this, host, FindArt(instance, resource.image), menu);
+    auto* button = new BarButton(this, FindArt(instance, resource.image), menu);
     const QString caption = QString::fromUtf16(resource.caption);
     button->setToolTip(caption);
     const int command = resource.command;
@@ -180,8 +79,15 @@ void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance)
         PostMessageW(owner, WM_COMMAND, static_cast<WPARAM>(command), 0);
         OpenPopup(button);
     });
+    Connect(button);
     button->show();
     buttons.push_back(button);
+}
+
+void MenuBarWidget::Connect(BarButton* button) {
+    connect(button, &BarButton::Passed, this, &MenuBarWidget::MoveFocus);
+    connect(button, &BarButton::KeysLeft, this, &MenuBarWidget::KeysLeft);
+    connect(button, &BarButton::PressedByKey, this, [this, button] { PressByKey(button); });
 }
 
 void MenuBarWidget::NameButtons() {
@@ -195,7 +101,7 @@ void MenuBarWidget::OpenPopup(BarButton* button) {
     if (button->Menu() == nullptr) {
         return;
     }
-    QMenu* popup = PopupOf(button->Menu(), owner);
+    QMenu* popup = PopupOf(button->Menu(), owner, window());
     popup->installEventFilter(this);
     for (QMenu* submenu : popup->findChildren<QMenu*>()) {
         submenu->installEventFilter(this);
@@ -211,11 +117,11 @@ void MenuBarWidget::OpenPopup(BarButton* button) {
 }
 
 void MenuBarWidget::PressByKey(BarButton* button) {
-    host->FocusProgram();
+    emit KeysLeft();
     button->click();
     if (button->Menu() != nullptr) {
         QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-        QCoreApplication::sendEvent(PopupOf(button->Menu(), owner), &down);
+        QCoreApplication::sendEvent(PopupOf(button->Menu(), owner, window()), &down);
     }
 }
 
@@ -274,11 +180,11 @@ void MenuBarWidget::MoveFocus(int step) {
 }
 
 void MenuBarWidget::AddPanelButton() {
-    panelButton = new BarButton(this, host, &panelArt);
+    panelButton = new BarButton(this, &panelArt);
     panelButton->setCheckable(true);
     panelButton->setToolTip("Keyboard");
-    connect(panelButton, &QAbstractButton::toggled, this,
-            [this](bool up) { host->SetPanelUp(up); });
+    connect(panelButton, &QAbstractButton::toggled, this, &MenuBarWidget::PanelAsked);
+    Connect(panelButton);
     panelButton->show();
 }
 
@@ -309,7 +215,7 @@ void MenuBarWidget::ShowPanelState(bool up) {
 }
 
 void MenuBarWidget::PlaceButtons() {
-    const double magnification = host->Magnification();
+    const double magnification = ScreenMagnification();
     const auto at = [&](int index) { return qRound(index * buttonWidth * magnification); };
     int index = 0;
     for (BarButton* button : buttons) {
@@ -325,7 +231,7 @@ void MenuBarWidget::PlaceButtons() {
 void MenuBarWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), barColor);
-    painter.fillRect(0, 0, width(), std::max(1, static_cast<int>(host->Magnification())),
+    painter.fillRect(0, 0, width(), std::max(1, static_cast<int>(ScreenMagnification())),
                      barEdgeColor);
 }
 

@@ -1,46 +1,19 @@
 // The bar at the bottom of the screen: the program's buttons and the soft input panel's.
 #pragma once
 
-#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QWidget>
 #include <map>
 #include <vector>
 
 #include "platform/resources.h"
 
-class HostWindow;
-
-class BarButton : public QAbstractButton {
-    Q_OBJECT
-
-public:
-    BarButton(QWidget* bar, HostWindow* host, const ArtResource* art, HMENU menu = nullptr);
-
-    // Null for a button without a popup.
-    HMENU Menu() const {
-        return menu;
-    }
-
-protected:
-    bool event(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
-
-private:
-    void HandToProgram(QKeyEvent* event);
-    void ShowTip();
-
-    HostWindow* host;
-    const ArtResource* art;
-    HMENU menu;
-};
+class BarButton;
 
 class MenuBarWidget : public QWidget {
     Q_OBJECT
 
 public:
-    explicit MenuBarWidget(HostWindow* host);
+    explicit MenuBarWidget(QWidget* host);
 
     // False when the instance has no menu bar of that number.
     bool Open(HWND owner, HINSTANCE instance, int id);
@@ -53,8 +26,6 @@ public:
     void FocusFirstButton();
     // From the button that has the focus, to the right or left, around the ends.
     void MoveFocus(int step);
-    // A popup that a key opens has its first item selected.
-    void PressByKey(BarButton* button);
 
     // For screen readers. The first name that is given makes the toolkit look for its accessibility
     // plugins, which takes milliseconds.
@@ -62,6 +33,11 @@ public:
 
     void ShowPanelButton(bool shown);
     void ShowPanelState(bool up);
+
+signals:
+    // The keys go back to the program.
+    void KeysLeft();
+    void PanelAsked(bool up);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -72,12 +48,14 @@ protected:
 private:
     void AddButton(const MenuBarButton& button, HINSTANCE instance);
     void AddPanelButton();
+    void Connect(BarButton* button);
+    // A popup that a key opens has its first item selected.
+    void PressByKey(BarButton* button);
     void OpenPopup(BarButton* button);
     void OpenNeighbour(int step);
     void PlaceButtons();
     void RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const;
 
-    HostWindow* host;
     HWND owner = nullptr;
     int barId = 0;
     std::vector<BarButton*> buttons;

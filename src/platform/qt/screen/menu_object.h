@@ -26,10 +26,3 @@ struct MenuObject {
     QPointer<QMenu> popup;
     HWND owner = nullptr;  // the window that the popup was opened for last
 };
-
-// The toolkit's popup, built once; its text is sized with the screen. A chosen item's command is
-// queued for the window.
-QMenu* PopupOf(HMENU menu, HWND window);
-
-// With their submenus.
-void ClosePopups();

@@ -5,8 +5,8 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/look/look.h"
-#include "platform/qt/window/host_window.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ QRectF InRow(int row, double left, double right) {
 
 }  // namespace
 
-SoftInputPanel::SoftInputPanel(HostWindow* parent) : QWidget(parent), host(parent) {
+SoftInputPanel::SoftInputPanel(QWidget* host) : QWidget(host) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     AddRow(0, 0, Characters("1234567890-="), Characters("!@#$%^&*()_+"));
     AddSpecial(QString::fromUtf8("\u2190"), Qt::Key_Backspace, InRow(0, 216, 240));
@@ -66,7 +66,7 @@ void SoftInputPanel::paintEvent(QPaintEvent*) {
 
 void SoftInputPanel::PaintKey(QPainter& painter, size_t index) const {
     const Key& key = keys[index];
-    const double magnification = host->Magnification();
+    const double magnification = ScreenMagnification();
     const bool lit = static_cast<int>(index) == pressed || (shift && key.code == Qt::Key_Shift);
     // On whole pixels, so that all edges are sharp.
     const QRect cap = QRectF(key.place.topLeft() * magnification, key.place.size() * magnification)
@@ -82,7 +82,7 @@ void SoftInputPanel::PaintKey(QPainter& painter, size_t index) const {
 }
 
 int SoftInputPanel::KeyAt(QPointF point) const {
-    const QPointF logical = point / host->Magnification();
+    const QPointF logical = point / ScreenMagnification();
     for (size_t i = 0; i < keys.size(); ++i) {
         if (keys[i].place.contains(logical)) {
             return static_cast<int>(i);
@@ -120,8 +120,8 @@ void SoftInputPanel::Press(const Key& key) {
     const int code = key.code != 0 ? key.code : key.plain[0].toUpper().unicode();
     QWidget* focus = QApplication::focusWidget();
     // The panel types into the screen it stands on, though the help's window may be the active one.
-    const bool onScreen = focus != nullptr && host->isAncestorOf(focus);
-    QWidget* target = onScreen ? focus : host->focusWidget();
+    const bool onScreen = focus != nullptr && window()->isAncestorOf(focus);
+    QWidget* target = onScreen ? focus : window()->focusWidget();
     if (target != nullptr) {
         const auto modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
         QKeyEvent press(QEvent::KeyPress, code, modifiers, text);

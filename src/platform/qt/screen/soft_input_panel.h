@@ -4,13 +4,11 @@
 #include <QtWidgets/QWidget>
 #include <vector>
 
-class HostWindow;
-
 class SoftInputPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit SoftInputPanel(HostWindow* host);
+    explicit SoftInputPanel(QWidget* host);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -32,7 +30,6 @@ private:
     int KeyAt(QPointF point) const;
     void Press(const Key& key);
 
-    HostWindow* host;
     std::vector<Key> keys;
     int pressed = -1;
     bool shift = false;

@@ -3,10 +3,8 @@
 #include <QtGui/QPainter>
 #include <algorithm>
 
-#include "platform/dialogs.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/look/look.h"
-#include "platform/qt/window/host_window.h"
-#include "platform/qt/window/window.h"
 
 namespace {
 
@@ -16,7 +14,7 @@ constexpr double doneWidth = 36;
 
 class DoneButton : public QAbstractButton {
 public:
-    DoneButton(TitleBar* bar, HostWindow* parent) : QAbstractButton(bar), host(parent) {
+    explicit DoneButton(TitleBar* bar) : QAbstractButton(bar) {
         setText("OK");
         setFocusPolicy(Qt::NoFocus);
         setAccessibleName("OK");
@@ -33,7 +31,7 @@ protected:
     // A light pill with dark text; the whole button, which is as high as the bar, can be tapped.
     void paintEvent(QPaintEvent*) override {
         constexpr double inset = 4;
-        const double magnification = host->Magnification();
+        const double magnification = ScreenMagnification();
         const int space = qRound(inset * magnification);
         const QRect pill = rect().adjusted(0, space, -space, -space);
         QPainter painter(this);
@@ -45,14 +43,11 @@ protected:
         painter.setFont(BarFont(11 * magnification, true));
         painter.drawText(pill, Qt::AlignCenter, text());
     }
-
-private:
-    HostWindow* host;
 };
 
 }  // namespace
 
-TitleBar::TitleBar(HostWindow* parent) : QWidget(parent), host(parent) {
+TitleBar::TitleBar(QWidget* host) : QWidget(host) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -66,9 +61,8 @@ void TitleBar::ShowDoneButton(bool shown) {
         if (!shown) {
             return;
         }
-        doneButton = new DoneButton(this, host);
-        connect(doneButton, &QAbstractButton::clicked,
-                [] { SendMessageW(TopWindow(), WM_COMMAND, IDOK, 0); });
+        doneButton = new DoneButton(this);
+        connect(doneButton, &QAbstractButton::clicked, this, &TitleBar::Done);
         resizeEvent(nullptr);
     }
     doneButton->setVisible(shown);
@@ -76,13 +70,13 @@ void TitleBar::ShowDoneButton(bool shown) {
 
 void TitleBar::resizeEvent(QResizeEvent*) {
     if (doneButton != nullptr) {
-        const int wide = qRound(doneWidth * host->Magnification());
+        const int wide = qRound(doneWidth * ScreenMagnification());
         doneButton->setGeometry(width() - wide, 0, wide, height());
     }
 }
 
 void TitleBar::paintEvent(QPaintEvent*) {
-    const double magnification = host->Magnification();
+    const double magnification = ScreenMagnification();
     QPainter painter(this);
     painter.fillRect(rect(), titleBarColor);
     painter.setFont(FontFor(title, BarFont(13 * magnification, true)));

@@ -3,23 +3,23 @@
 
 #include <QtWidgets/QAbstractButton>
 
-class HostWindow;
-
 class TitleBar : public QWidget {
     Q_OBJECT
 
 public:
-    explicit TitleBar(HostWindow* host);
+    explicit TitleBar(QWidget* host);
     void SetTitle(const QString& text);
-    // The shell's OK, which sends command 1 to the top window.
+    // The shell's OK.
     void ShowDoneButton(bool shown);
+
+signals:
+    void Done();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    HostWindow* host;
     QString title;
     QAbstractButton* doneButton = nullptr;  // made for the first dialog
 };

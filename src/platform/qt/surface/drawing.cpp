@@ -1,74 +1,18 @@
-// Drawing contexts and objects.
+// Shapes, text and copies.
 //
-// Supported: solid pens one pixel wide, solid brushes, fonts in two faces ("System" and every
-// other name), bitmaps, rectangles, rounded rectangles, horizontal and vertical lines, text,
-// copies. Left out: pen styles, patterns, regions, palettes, slanted lines, raster operations
-// beyond two.
+// Supported: rectangles, rounded rectangles, horizontal and vertical lines, text, copies. Left out:
+// slanted lines, raster operations beyond two.
 #include "platform/drawing.h"
 
 #include <algorithm>
-#include <string_view>
 
-#include "platform/qt/look/art.h"
-#include "platform/qt/surface/drawing_objects.h"
-#include "platform/qt/surface/text_painter.h"
-#include "platform/qt/window/window.h"
+#include "platform/qt/surface/drawing_context.h"
 
 namespace {
 
-DrawingObject* MakeStockObject(DrawingObject::Kind kind, COLORREF color) {
-    auto* object = new DrawingObject(kind);
-    object->stock = true;
-    object->color = ToQRgb(color);
-    if (kind == DrawingObject::Kind::Font) {
-        object->font.height = -12;
-    } else if (kind == DrawingObject::Kind::Bitmap) {
-        object->surface = std::make_unique<Surface>(1, 1);
-    }
-    return object;
-}
-
-// What a new context holds; made once and kept until the process ends.
-struct StockObjects {
-    HGDIOBJ blackPen = MakeStockObject(DrawingObject::Kind::Pen, 0x000000);
-    HGDIOBJ whiteBrush = MakeStockObject(DrawingObject::Kind::Brush, 0xFFFFFF);
-    HGDIOBJ font = MakeStockObject(DrawingObject::Kind::Font, 0);
-    HGDIOBJ bitmap = MakeStockObject(DrawingObject::Kind::Bitmap, 0);
-};
-
-const StockObjects& Stock() {
-    static const StockObjects* objects = new StockObjects;
-    return *objects;
-}
-
-HGDIOBJ& Slot(HDC context, DrawingObject::Kind kind) {
-    switch (kind) {
-        case DrawingObject::Kind::Pen: return context->pen;
-        case DrawingObject::Kind::Brush: return context->brush;
-        case DrawingObject::Kind::Font: return context->font;
-        default: return context->bitmap;
-    }
-}
-
-void SelectStockObjects(HDC context) {
-    context->pen = Stock().blackPen;
-    context->brush = Stock().whiteBrush;
-    context->font = Stock().font;
-}
-
-void ReleaseObjects(HDC context) {
-    for (HGDIOBJ object : {context->pen, context->brush, context->font, context->bitmap}) {
-        if (object != nullptr) {
-            --object->selections;
-        }
-    }
-}
-
-void CountObjects(HDC context) {
-    for (HGDIOBJ object : {context->pen, context->brush, context->font, context->bitmap}) {
-        if (object != nullptr) {
-            ++object->selections;
-        }
+void Tell(HDC context, const RECT& area) {
+    if (context->drawn) {
+        context->drawn(area);
     }
 }
 
@@ -78,164 +22,9 @@ BOOL DrawOn(HDC context, Mark mark) {
     }
     const RECT touched = TouchedArea(mark);
     context->surface->Draw(std::move(mark));
-    if (context->window != nullptr) {
-        ShowSoon(context->window, touched);
-    }
+    Tell(context, touched);
     return TRUE;
 }
-
-HGDIOBJ MakeColored(DrawingObject::Kind kind, COLORREF color) {
-    auto* object = new DrawingObject(kind);
-    object->color = ToQRgb(color);
-    return object;
-}
-
-}  // namespace
-
-QRgb ToQRgb(COLORREF color) {
-    return qRgb(GetRValue(color), GetGValue(color), GetBValue(color));
-}
-
-HDC GetDC(HWND window) {
-    Surface* surface = SurfaceOf(window);
-    if (surface == nullptr) {
-        return nullptr;
-    }
-    auto* context = new DrawingContext;
-    context->window = window;
-    context->surface = surface;
-    SelectStockObjects(context);
-    CountObjects(context);
-    return context;
-}
-
-int ReleaseDC(HWND, HDC context) {
-    if (context == nullptr) {
-        return 0;
-    }
-    ReleaseObjects(context);
-    delete context;
-    return 1;
-}
-
-HDC BeginPaint(HWND window, PAINTSTRUCT* paint) {
-    ValidateWindow(window);
-    *paint = {};
-    paint->hdc = GetDC(window);
-    if (paint->hdc != nullptr) {
-        GetClientRect(window, &paint->rcPaint);
-    }
-    return paint->hdc;
-}
-
-BOOL EndPaint(HWND window, const PAINTSTRUCT* paint) {
-    return ReleaseDC(window, paint->hdc) != 0;
-}
-
-HDC CreateCompatibleDC(HDC) {
-    auto* context = new DrawingContext;
-    SelectStockObjects(context);
-    context->bitmap = Stock().bitmap;
-    context->surface = context->bitmap->surface.get();
-    CountObjects(context);
-    return context;
-}
-
-BOOL DeleteDC(HDC context) {
-    return ReleaseDC(nullptr, context) != 0;
-}
-
-HBITMAP CreateCompatibleBitmap(HDC, int width, int height) {
-    auto* object = new DrawingObject(DrawingObject::Kind::Bitmap);
-    object->surface = std::make_unique<Surface>(width, height);
-    return object;
-}
-
-HBITMAP LoadBitmapW(HINSTANCE instance, int id) {
-    const auto found = std::find_if(instance->art.begin(), instance->art.end(),
-                                    [id](const ArtResource& art) { return art.id == id; });
-    if (found == instance->art.end()) {
-        return nullptr;
-    }
-    HBITMAP bitmap = CreateCompatibleBitmap(nullptr, found->width, found->height);
-    bitmap->surface->Draw(ArtMark{{0, 0, found->width, found->height}, found->file});
-    return bitmap;
-}
-
-HPEN CreatePen(int, int, COLORREF color) {
-    return MakeColored(DrawingObject::Kind::Pen, color);
-}
-
-HBRUSH CreateSolidBrush(COLORREF color) {
-    return MakeColored(DrawingObject::Kind::Brush, color);
-}
-
-HFONT CreateFontIndirectW(const LOGFONTW* description) {
-    auto* object = new DrawingObject(DrawingObject::Kind::Font);
-    const std::u16string_view face(description->lfFaceName);
-    object->font.face = face == u"System" ? FontChoice::Face::System : FontChoice::Face::Small;
-    object->font.bold = description->lfWeight >= 600;
-    object->font.height = description->lfHeight != 0 ? description->lfHeight : -12;
-    object->description = *description;
-    return object;
-}
-
-int GetObjectW(HGDIOBJ object, int size, void* description) {
-    if (object == nullptr || object->kind != DrawingObject::Kind::Font ||
-        size != static_cast<int>(sizeof(LOGFONTW))) {
-        return 0;
-    }
-    *static_cast<LOGFONTW*>(description) = object->description;
-    return size;
-}
-
-HGDIOBJ GetStockObject(int object) {
-    return object == WHITE_BRUSH ? Stock().whiteBrush : nullptr;
-}
-
-HGDIOBJ SelectObject(HDC context, HGDIOBJ object) {
-    const bool windowWithBitmap = context != nullptr && context->window != nullptr &&
-                                  object != nullptr && object->kind == DrawingObject::Kind::Bitmap;
-    if (context == nullptr || object == nullptr || windowWithBitmap) {
-        return nullptr;
-    }
-    HGDIOBJ& slot = Slot(context, object->kind);
-    HGDIOBJ previous = slot;
-    --previous->selections;
-    ++object->selections;
-    slot = object;
-    if (object->kind == DrawingObject::Kind::Bitmap) {
-        context->surface = object->surface.get();
-    }
-    return previous;
-}
-
-BOOL DeleteObject(HGDIOBJ object) {
-    if (object == nullptr || object->stock || object->selections > 0) {
-        return FALSE;
-    }
-    delete object;
-    return TRUE;
-}
-
-int GetDeviceCaps(HDC, int index) {
-    constexpr int dotsPerInch = 96;
-    return index == LOGPIXELSY ? dotsPerInch : 0;
-}
-
-COLORREF SetTextColor(HDC context, COLORREF color) {
-    return context == nullptr ? 0 : std::exchange(context->textColor, color);
-}
-
-COLORREF SetBkColor(HDC context, COLORREF color) {
-    return context == nullptr ? 0 : std::exchange(context->backgroundColor, color);
-}
-
-int SetBkMode(HDC context, int mode) {
-    return context == nullptr ? 0 : std::exchange(context->backgroundMode, mode);
-}
-
-namespace {
 
 // From edge to edge in one colour: it clears. Its last pixels are as whole as the others, not as
 // thin as an outline.
@@ -310,9 +99,7 @@ BOOL BitBlt(HDC destination, int x, int y, int width, int height, HDC source, in
     }
     const RECT area{x, y, x + width, y + height};
     destination->surface->Copy(area, *source->surface, {sourceX, sourceY});
-    if (destination->window != nullptr) {
-        ShowSoon(destination->window, area);
-    }
+    Tell(destination, area);
     return TRUE;
 }
 

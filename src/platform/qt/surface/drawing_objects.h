@@ -1,4 +1,4 @@
-// What stands behind the handles of drawing.h.
+// Pens, brushes, fonts and bitmaps: what stands behind their handles.
 #pragma once
 
 #include <memory>
@@ -22,16 +22,14 @@ struct DrawingObject {
     std::unique_ptr<Surface> surface;  // bitmaps
 };
 
-struct DrawingContext {
-    HWND window = nullptr;       // null for a memory context
-    Surface* surface = nullptr;  // what is drawn on
-    HGDIOBJ pen = nullptr;
-    HGDIOBJ brush = nullptr;
-    HGDIOBJ font = nullptr;
-    HGDIOBJ bitmap = nullptr;  // memory contexts only
-    COLORREF textColor = 0;
-    COLORREF backgroundColor = 0xFFFFFF;
-    int backgroundMode = OPAQUE;
+// What a new context holds; made once and kept until the process ends.
+struct StockObjects {
+    HGDIOBJ blackPen;
+    HGDIOBJ whiteBrush;
+    HGDIOBJ font;
+    HGDIOBJ bitmap;
 };
+
+const StockObjects& Stock();
 
 QRgb ToQRgb(COLORREF color);

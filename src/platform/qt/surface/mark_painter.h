@@ -3,7 +3,8 @@
 
 #include <QtGui/QPainter>
 
-#include "platform/qt/surface/surface.h"
+#include "platform/qt/common/marks.h"
+#include "platform/qt/common/scale.h"
 
 void PaintMark(QPainter& painter, const Scale& scale, const Mark& mark);
 void PaintPicture(QPainter& painter, const Scale& scale, const Picture& picture);

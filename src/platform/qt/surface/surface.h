@@ -7,23 +7,7 @@
 
 #include "platform/qt/common/change_map.h"
 #include "platform/qt/common/marks.h"
-
-// From logical to device pixels. At a fractional ratio neighbouring areas meet without a gap,
-// and all lines have the same thickness.
-struct Scale {
-    double ratio = 1;
-
-    int At(int logical) const {
-        return qRound(logical * ratio);
-    }
-    int LineThickness() const {
-        return qMax(1, static_cast<int>(ratio));
-    }
-    QRect Area(const RECT& area) const {
-        return QRect(QPoint(At(area.left), At(area.top)),
-                     QPoint(At(area.right) - 1, At(area.bottom) - 1));
-    }
-};
+#include "platform/qt/common/scale.h"
 
 // Drawing is remembered first and rendered when the pixels are asked for: a board that is painted
 // anew from top to bottom costs no more than the cells that changed.

@@ -1,6 +1,9 @@
 // Text drawn from cached pictures of words and letters.
 #pragma once
 
-#include "platform/qt/surface/surface.h"
+#include <QtGui/QPainter>
+
+#include "platform/qt/common/marks.h"
+#include "platform/qt/common/scale.h"
 
 void PaintText(QPainter& painter, const Scale& scale, const TextMark& mark);

@@ -1,15 +1,18 @@
-// What stands behind a window handle.
+// What stands behind a window handle, and which windows there are.
 #pragma once
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/qt/surface/surface.h"
 #include "platform/windows.h"
 
 struct Window {
+    virtual ~Window() = default;
+
     std::u16string className;
     std::u16string title;
     WNDPROC procedure = nullptr;
@@ -23,38 +26,26 @@ struct Window {
     QPointer<QWidget> widget;  // shows the window; owned by the host window
 };
 
-// A handle may outlive its window: every operation asks first.
-bool IsLiveWindow(HWND window);
-
+// Windows on the screen, in the order of creation: the last one is on top.
+const std::vector<HWND>& StackedWindows();
+void Stack(HWND window);
+void Unstack(HWND window);
 // The window that input and shell changes go to; null when there is none.
 HWND TopWindow();
 // The program's main window, whatever lies over it; null when there is none.
 HWND BottomWindow();
 
-class ClientView;
-// A new window, not yet shown, over all others.
-void PutOnTop(HWND window, const RECT& frame, ClientView* view);
-// After a window over it has gone: the top window gets its title bar back, hears what happened to
-// the soft input panel meanwhile, and becomes active.
-void ReturnToTopWindow();
-// Sends WM_SETTINGCHANGE.
-void TellPanelChange(HWND window);
+// The controls of dialogs are windows, too, but none of the stack.
+void AddChildWindow(HWND child);
+void RemoveChildWindow(HWND child);
 
-// Null for a window that is gone.
-Surface* SurfaceOf(HWND window);
+// A handle may outlive its window: every operation asks first.
+bool IsLiveWindow(HWND window);
 
-// Brings an area that was drawn on to the screen with the next round of the event loop.
-void ShowSoon(HWND window, const RECT& area);
+// The menu bar's handle is not a window of the program; it takes no messages but the bar's own, for
+// which the host window gives it a procedure.
+HWND MenuBarHandle();
+bool IsMenuBar(HWND window);
+
 // Brings everything that was drawn to the screen now.
 void ShowNow();
-
-void ValidateWindow(HWND window);
-// Sends the WM_PAINT that is due, if one is.
-void PaintIfDue(HWND window);
-void PaintAllDue();
-
-// Sends WM_SIZE when the size changed. Content inside both sizes stays.
-void MoveWindow(HWND window, const RECT& frame);
-
-// Sends WM_ACTIVATE when the state changes.
-void SetActive(HWND window, bool active);

@@ -4,7 +4,6 @@
 
 #include <QtWidgets/QWidget>
 
-#include "platform/qt/common/screen_layout.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 
@@ -22,23 +21,12 @@ public:
     // Below the soft input panel and above everything else.
     void AddView(ClientView* view);
 
-    // The widget's exact place, on whole device pixels; a widget covers at least this.
-    QRectF ExactPlace(const RECT& area) const;
-    // The logical point under a point of this widget.
-    POINT LogicalPoint(QPointF point) const;
-    // Logical pixels to this widget's own pixels.
-    double Magnification() const {
-        return magnification;
-    }
-
     void SetLook(const std::u16string& title, HICON icon);
     // The title bar alone, without a button in it.
     void ShowTitle(const std::u16string& title);
     void ShowDoneButton(bool shown);
     // While a dialog is open, the menu bar takes nothing.
     void EnableMenuBar(bool enabled);
-    // Called with every frame; what nobody should wait for is done behind the first one.
-    void FinishStart();
     void ShowIfHidden();
     void ComeForward();
     void PlaceWidgets();
@@ -66,11 +54,11 @@ protected:
 
 private:
     void FitScreen();
+    // Called with every frame; what nobody should wait for is done behind the first one.
+    void FinishStart();
     void ShowBareFirst();
     QSize StartSize() const;
 
-    double magnification = 1;
-    QPointF screenOrigin;
     HICON iconToShow = nullptr;
     TitleBar* titleBar;
     MenuBarWidget* menuBar;
@@ -79,6 +67,3 @@ private:
 
 // Made with the first use; needs the application object.
 HostWindow& Host();
-
-// The menu bar's handle is not a window of the program; it takes no messages but the bar's own.
-bool IsMenuBar(HWND window);

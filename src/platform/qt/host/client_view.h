@@ -5,18 +5,21 @@
 
 #include "platform/types.h"
 
-class HostWindow;
-
 class ClientView : public QWidget {
     Q_OBJECT
 
 public:
-    ClientView(HostWindow* host, HWND window);
+    ClientView(QWidget* host, HWND window);
 
     HWND ShownWindow() const {
         return window;
     }
     void ShowArea(const RECT& area);
+
+signals:
+    // A key asks for the menu bar.
+    void MenuBarAsked();
+    void Painted();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,7 +37,6 @@ protected:
 private:
     POINT ClientPoint(const QMouseEvent* event) const;
 
-    HostWindow* host;
     HWND window;
     bool altAlone = false;
 };

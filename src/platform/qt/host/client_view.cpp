@@ -1,17 +1,16 @@
-#include "platform/qt/window/client_view.h"
+#include "platform/qt/host/client_view.h"
 
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 
 #include "platform/qt/common/message_queue.h"
+#include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/input/key_codes.h"
 #include "platform/qt/input/stylus.h"
-#include "platform/qt/window/host_window.h"
 #include "platform/qt/window/window.h"
 
-ClientView::ClientView(HostWindow* parent, HWND shown)
-    : QWidget(parent), host(parent), window(shown) {
+ClientView::ClientView(QWidget* host, HWND shown) : QWidget(host), window(shown) {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -26,20 +25,20 @@ void ClientView::ShowArea(const RECT& area) {
     place.right += window->frame.left;
     place.top += window->frame.top;
     place.bottom += window->frame.top;
-    update(host->ExactPlace(place).toAlignedRect().translated(-pos()));
+    update(ExactPlace(place).toAlignedRect().translated(-pos()));
 }
 
 void ClientView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.translate(host->ExactPlace(window->frame).topLeft() - QPointF(pos()));
+    painter.translate(ExactPlace(window->frame).topLeft() - QPointF(pos()));
     painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
     window->surface->Paint(painter);
-    host->FinishStart();
+    emit Painted();
 }
 
 POINT ClientView::ClientPoint(const QMouseEvent* event) const {
-    POINT point = host->LogicalPoint(mapTo(host, event->position()));
+    POINT point = LogicalPoint(mapToParent(event->position()));
     point.x -= window->frame.left;
     point.y -= window->frame.top;
     return point;
@@ -73,7 +72,7 @@ void ClientView::keyPressEvent(QKeyEvent* event) {
     // A lone press of Alt opens the menu bar when it is let go.
     altAlone = event->key() == Qt::Key_Alt && event->modifiers() == Qt::AltModifier;
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
-        host->FocusMenuBar();
+        emit MenuBarAsked();
         return;
     }
     const int key = VirtualKey(*event);
@@ -90,7 +89,7 @@ void ClientView::keyPressEvent(QKeyEvent* event) {
 
 void ClientView::keyReleaseEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Alt && altAlone) {
-        host->FocusMenuBar();
+        emit MenuBarAsked();
     }
     altAlone = false;
 }

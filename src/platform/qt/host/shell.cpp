@@ -1,8 +1,18 @@
-// The shell: soft input panel, menu bar, full screen. Tap-and-hold is in stylus.cpp.
+// The shell: soft input panel, menu bar, popups, full screen, tap-and-hold.
 #include "platform/shell.h"
 
-#include "platform/qt/window/host_window.h"
-#include "platform/qt/window/window.h"
+#include <QtWidgets/QMenu>
+#include <algorithm>
+
+#include "platform/menus.h"
+#include "platform/qt/common/message_queue.h"
+#include "platform/qt/common/screen_geometry.h"
+#include "platform/qt/common/screen_layout.h"
+#include "platform/qt/host/host_window.h"
+#include "platform/qt/host/window_stack.h"
+#include "platform/qt/input/stylus.h"
+#include "platform/qt/screen/popups.h"
+#include "platform/qt/window/end_request.h"
 
 BOOL SHSipInfo(UINT action, UINT, void* record, UINT) {
     auto* info = static_cast<SIPINFO*>(record);
@@ -68,4 +78,29 @@ BOOL SHCreateMenuBar(SHMENUBARINFO* request) {
     request->hwndMB = Host().OpenMenuBar(request->hwndParent, request->hInstRes,
                                          static_cast<int>(request->nToolBarId));
     return request->hwndMB != nullptr;
+}
+
+DWORD SHRecognizeGesture(SHRGINFO* gesture) {
+    if (CurrentMessage().heldAtOnce) {
+        return GN_CONTEXTMENU;
+    }
+    const RECT frame = gesture->hwndClient->frame;
+    const LONG x = frame.left + gesture->ptDown.x;
+    const LONG y = frame.top + gesture->ptDown.y;
+    const QPointF point = ExactPlace({x, y, x + 1, y + 1}).center();
+    return AwaitHold(&Host(), point) ? GN_CONTEXTMENU : 0;
+}
+
+BOOL TrackPopupMenuEx(HMENU menu, UINT, int x, int y, HWND window, void*) {
+    if (menu == nullptr || EndingAsked()) {
+        return FALSE;
+    }
+    QMenu* popup = PopupOf(menu, window, &Host());
+    const QRect screen = ExactPlace({0, 0, screenWidth, screenHeight}).toAlignedRect();
+    const QSize room = screen.size() - popup->sizeHint();
+    const QPoint wanted = ExactPlace({x, y, x, y}).topLeft().toPoint() - screen.topLeft();
+    const QPoint corner(std::clamp(wanted.x(), 0, std::max(room.width(), 0)),
+                        std::clamp(wanted.y(), 0, std::max(room.height(), 0)));
+    popup->exec(Host().mapToGlobal(screen.topLeft() + corner));
+    return TRUE;
 }

@@ -1,4 +1,4 @@
-#include "platform/qt/window/endings.h"
+#include "platform/qt/process/endings.h"
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -8,8 +8,7 @@
 #include <QtWidgets/QApplication>
 #include <csignal>
 
-#include "platform/qt/common/message_queue.h"
-#include "platform/qt/dialogs/dialog_box.h"
+#include "platform/qt/window/end_request.h"
 #include "platform/qt/window/window.h"
 
 namespace {
@@ -18,7 +17,6 @@ namespace {
 int signalPair[2] = {-1, -1};
 
 QtMessageHandler previousHandler = nullptr;
-bool endingAsked = false;
 
 void OnSignal(int) {
     const char byte = 0;
@@ -43,42 +41,13 @@ void WatchSignals() {
     }
 }
 
-void CloseNow() {
-    if (HWND window = BottomWindow()) {
-        SendMessageW(window, WM_CLOSE, 0, 0);
-    }
-}
-
 // When the display server goes away, the toolkit says so and then ends the process on the spot.
 // These words are all the notice there is.
 void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     previousHandler(type, context, message);
     if (message.startsWith("The X11 connection broke") ||
         message.startsWith("The Wayland connection broke")) {
-        CloseNow();
-    }
-}
-
-void CloseEverythingAbove() {
-    while (QWidget* popup = QApplication::activePopupWidget()) {
-        if (!popup->close()) {
-            break;
-        }
-    }
-    while (QWidget* modal = QApplication::activeModalWidget()) {
-        if (!modal->close()) {
-            break;
-        }
-    }
-}
-
-// The session waits for no queue: what is not written when this returns may be lost.
-void EndWithSession() {
-    if (InsideProcedure()) {
-        AskProgramToEnd();
-    } else {
-        CloseEverythingAbove();
-        CloseNow();
+        SendMessageW(BottomWindow(), WM_CLOSE, 0, 0);
     }
 }
 
@@ -86,32 +55,8 @@ void EndWithSession() {
 
 void WatchForEndings() {
     WatchSignals();
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, EndWithSession,
+    // The session waits for no queue: what is not written when this returns may be lost.
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, EndProgramAtOnce,
                      Qt::DirectConnection);
     previousHandler = qInstallMessageHandler(OnToolkitMessage);
-}
-
-bool EndingAsked() {
-    return endingAsked;
-}
-
-void ForgetEnding() {
-    endingAsked = false;
-}
-
-void AskProgramToEnd() {
-    endingAsked = true;
-    CloseEverythingAbove();
-    CloseDialogs();
-    PostMessageW(BottomWindow(), WM_CLOSE, 0, 0);
-}
-
-void TellProgramMinimized() {
-    if (InsideProcedure()) {
-        AskProgramToEnd();
-    } else {
-        // A message of the help's window stands above no procedure.
-        CloseEverythingAbove();
-        SendMessageW(BottomWindow(), WM_SIZE, SIZE_MINIMIZED, 0);
-    }
 }

@@ -1,4 +1,4 @@
-#include "platform/qt/window/host_window.h"
+#include "platform/qt/host/host_window.h"
 
 #include <QtCore/QTimer>
 #include <QtCore/QtMath>
@@ -10,17 +10,19 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/dialogs.h"
 #include "platform/menus.h"
-#include "platform/qt/common/message_queue.h"
-#include "platform/qt/look/art.h"
+#include "platform/qt/common/screen_geometry.h"
+#include "platform/qt/common/screen_layout.h"
+#include "platform/qt/host/client_view.h"
 #include "platform/qt/look/icon_object.h"
 #include "platform/qt/look/look.h"
 #include "platform/qt/screen/menu_bar.h"
-#include "platform/qt/screen/menu_object.h"
 #include "platform/qt/screen/soft_input_panel.h"
 #include "platform/qt/screen/title_bar.h"
-#include "platform/qt/window/client_view.h"
-#include "platform/qt/window/endings.h"
+#include "platform/qt/window/end_request.h"
+#include "platform/qt/window/notices.h"
+#include "platform/qt/window/open_above.h"
 #include "platform/qt/window/window.h"
 #include "platform/shell.h"
 
@@ -28,12 +30,6 @@ namespace {
 
 LRESULT AnswerForMenuBar(HWND, UINT message, WPARAM, LPARAM lParam) {
     return message == SHCMBM_GETSUBMENU ? Host().MenuOfButton(static_cast<int>(lParam)) : 0;
-}
-
-HWND MenuBarHandle() {
-    static Window handle;
-    handle.procedure = AnswerForMenuBar;
-    return &handle;
 }
 
 void Place(QWidget* widget, const QRectF& exact) {
@@ -48,10 +44,6 @@ HostWindow& Host() {
     return *host;
 }
 
-bool IsMenuBar(HWND window) {
-    return window == MenuBarHandle();
-}
-
 HostWindow::HostWindow()
     : titleBar(new TitleBar(this)),
       menuBar(new MenuBarWidget(this)),
@@ -60,6 +52,11 @@ HostWindow::HostWindow()
     setAttribute(Qt::WA_OpaquePaintEvent);
     menuBar->hide();
     panel->hide();
+    MenuBarHandle()->procedure = AnswerForMenuBar;
+    connect(titleBar, &TitleBar::Done, this,
+            [] { SendMessageW(TopWindow(), WM_COMMAND, IDOK, 0); });
+    connect(menuBar, &MenuBarWidget::KeysLeft, this, &HostWindow::FocusProgram);
+    connect(menuBar, &MenuBarWidget::PanelAsked, this, &HostWindow::SetPanelUp);
     resize(StartSize());
     FitScreen();
 }
@@ -79,18 +76,9 @@ QSize HostWindow::StartSize() const {
 
 void HostWindow::AddView(ClientView* view) {
     view->stackUnder(panel);
+    connect(view, &ClientView::MenuBarAsked, this, &HostWindow::FocusMenuBar);
+    connect(view, &ClientView::Painted, this, &HostWindow::FinishStart);
     PlaceWidgets();
-}
-
-QRectF HostWindow::ExactPlace(const RECT& area) const {
-    const double ratio = devicePixelRatioF();
-    const QRect device = Scale{magnification * ratio}.Area(area);
-    return QRectF(screenOrigin + QPointF(device.topLeft()) / ratio, QSizeF(device.size()) / ratio);
-}
-
-POINT HostWindow::LogicalPoint(QPointF point) const {
-    const QPointF logical = (point - screenOrigin) / magnification;
-    return {qFloor(logical.x()), qFloor(logical.y())};
 }
 
 void HostWindow::SetLook(const std::u16string& title, HICON icon) {
@@ -154,13 +142,8 @@ void HostWindow::ComeForward() {
 }
 
 void HostWindow::FitScreen() {
-    const double ratio = devicePixelRatioF();
-    magnification = std::min(width() / double(screenWidth), height() / double(screenHeight));
-    const QSizeF screen(screenWidth * magnification, screenHeight * magnification);
-    // On a whole device pixel, so that nothing on the screen is blurred.
-    screenOrigin = QPointF(qFloor((width() - screen.width()) / 2 * ratio) / ratio,
-                           qFloor((height() - screen.height()) / 2 * ratio) / ratio);
-    Surface::SetRatioOfAll(magnification * ratio);
+    FitScreenInto(size(), devicePixelRatioF());
+    Surface::SetRatioOfAll(ScreenRatio());
     PlaceWidgets();
 }
 
@@ -212,7 +195,7 @@ void HostWindow::SetPanelUp(bool up) {
     }
     panel->setVisible(up);
     menuBar->ShowPanelState(up);
-    TellPanelChange(TopWindow());
+    TellPanelChange(TopWindow(), up);
 }
 
 void HostWindow::ShowPanelButton(bool shown) {
