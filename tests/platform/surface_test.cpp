@@ -83,7 +83,7 @@ public:
         return LineMark{area, Color()};
     }
     Mark Any() {
-        const FontChoice font{FontChoice::Face::System, Below(2) == 0, Below(30) + 1};
+        const FontChoice font{FontChoice::Face::System, Below(2) == 0, Below(30) + 1.0};
         switch (Below(6)) {
             case 0: return FillMark{Area(), Color()};
             case 1: return FrameMark{Area(), Color(), Color(), QSize(6, 6)};

@@ -1,6 +1,7 @@
 #include "platform/qt/common/change_map.h"
 
 #include <algorithm>
+#include <bit>
 #include <functional>
 
 namespace {
@@ -38,8 +39,9 @@ public:
         Add(mark.box);
         Add(std::hash<std::u16string>()(mark.text));
         Add(static_cast<std::uint64_t>(mark.color) << 32 | mark.background);
-        Add(Pair(static_cast<int>(mark.format), mark.font.height));
-        Add(static_cast<std::uint64_t>(mark.font.face) << 2 | mark.font.bold << 1 | mark.opaque);
+        Add(std::bit_cast<std::uint64_t>(mark.font.em));
+        Add(static_cast<std::uint64_t>(mark.format) << 3 |
+            static_cast<std::uint64_t>(mark.font.face) << 2 | mark.font.bold << 1 | mark.opaque);
     }
     void operator()(const ArtMark& mark) {
         Add(mark.area);

@@ -20,7 +20,7 @@ QString HomeOverride() {
 const FolderMapping* Mappings() {
     static FolderMapping mappings[2];
     mappings[0] = {"\\My Documents\\", DocumentsFolderOnHost() + '/'};
-    mappings[1] = {"\\Program Files\\Quadrel\\", ProgramFolderOnHost() + '/'};
+    mappings[1] = {QString::fromUtf16(programFolderOnDevice.data()), ProgramFolderOnHost() + '/'};
     return mappings;
 }
 
@@ -37,6 +37,10 @@ QString ProgramFolderOnHost() {
     return home.isEmpty()
                ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/quadrel"
                : home + "/quadrel";
+}
+
+QString PuzzlesFolderOnHost() {
+    return DocumentsFolderOnHost() + "/Quadrel Puzzles";
 }
 
 std::optional<QString> ToHostPath(std::u16string_view devicePath) {

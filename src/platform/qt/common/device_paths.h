@@ -5,8 +5,13 @@
 #include <optional>
 #include <string_view>
 
+// With the trailing backslash.
+inline constexpr std::u16string_view programFolderOnDevice = u"\\Program Files\\Quadrel\\";
+
 QString DocumentsFolderOnHost();
 QString ProgramFolderOnHost();
+// The game's own, in the documents folder.
+QString PuzzlesFolderOnHost();
 
 // Nothing for a path that is empty, does not begin with a backslash or has more than 259
 // characters.

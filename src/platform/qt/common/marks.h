@@ -9,15 +9,8 @@
 #include <variant>
 #include <vector>
 
+#include "platform/qt/common/font_choice.h"
 #include "platform/types.h"
-
-struct FontChoice {
-    enum class Face { System, Small };
-    Face face = Face::System;
-    bool bold = false;
-    int height = 0;  // as in LOGFONTW: positive a cell, negative an em
-    bool operator==(const FontChoice&) const = default;
-};
 
 struct FillMark {
     RECT area;

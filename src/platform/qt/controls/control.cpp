@@ -11,19 +11,13 @@
 #include "platform/qt/common/dialog_units.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/controls/dialog_look.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/fonts.h"
 #include "platform/qt/surface/drawing_objects.h"
 
 namespace {
 
 LRESULT AnswerForControl(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return static_cast<Control*>(window)->Answer(message, wParam, lParam);
-}
-
-// A positive height is the character cell, which is about 15 percent taller than the em.
-double EmOf(const FontChoice& choice) {
-    constexpr double cellPerEm = 1.15;
-    return choice.height < 0 ? -choice.height : choice.height / cellPerEm;
 }
 
 }  // namespace
@@ -56,7 +50,7 @@ RECT Control::Area() const {
 void Control::Place() {
     frame = Area();
     if (font != nullptr) {
-        widget->setFont(BarFont(EmOf(font->font) * ScreenMagnification(), font->font.bold));
+        widget->setFont(TextFont(font->font.em * ScreenMagnification(), font->font.bold));
     }
     RECT onScreen = frame;
     onScreen.left += dialog->frame.left;

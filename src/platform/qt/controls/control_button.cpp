@@ -11,7 +11,7 @@
 #include "platform/dialogs.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/controls/control.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
 #include "platform/qt/surface/drawing_objects.h"
 
 namespace {

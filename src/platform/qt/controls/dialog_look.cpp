@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
 
 namespace {
 
-// Lengths are logical pixels with the unit "lp"; the colours are those of look.h.
+// Lengths are logical pixels with the unit "lp"; the colours are those of colors.h.
 constexpr const char* sheet = R"(
 * { color: @ink; }
 QToolTip { font-family: "Liberation Sans"; font-size: 10lp; background: white; color: @ink; border: 1lp solid @edge; padding: 1lp; }

@@ -4,12 +4,12 @@
 
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/input/tap_guard.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/fonts.h"
 #include "platform/qt/window/end_request.h"
 
 QFont ModalFont() {
     constexpr double em = 10;
-    return BarFont(em * ScreenMagnification(), false);
+    return TextFont(em * ScreenMagnification(), false);
 }
 
 int RunModal(QDialog& dialog) {

@@ -191,7 +191,7 @@ BOOL FindClose(HFIND search) {
 }
 
 DWORD GetModuleFileNameW(HINSTANCE, WCHAR* buffer, DWORD size) {
-    constexpr std::u16string_view path = u"\\Program Files\\Quadrel\\Quadrel.exe";
+    const std::u16string path = std::u16string(programFolderOnDevice) + u"Quadrel.exe";
     if (size <= path.size()) {
         return 0;
     }

@@ -48,5 +48,5 @@ void PrepareFolders() {
         CopyPuzzles(starters, documents);
         puzzles.removeIf([&](const QString& name) { return starters.contains(name); });
     }
-    CopyPuzzles(puzzles, documents + "/Quadrel Puzzles");
+    CopyPuzzles(puzzles, PuzzlesFolderOnHost());
 }

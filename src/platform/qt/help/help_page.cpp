@@ -10,7 +10,7 @@
 
 #include "platform/qt/help/help_pictures.h"
 #include "platform/qt/help/web_browser.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 
@@ -37,7 +37,7 @@ QTextBlock LastChapter(const QTextDocument& document) {
 }  // namespace
 
 HelpPage::HelpPage(QWidget* parent, double em) : QTextBrowser(parent), usualEm(em) {
-    setFont(BarFont(em, false));
+    setFont(TextFont(em, false));
     setFrameShape(QFrame::NoFrame);
     setOpenLinks(false);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpPage::Follow);
@@ -81,7 +81,7 @@ void HelpPage::SetZoom(int steps) {
     constexpr double step = 1.1;
     zoom = std::clamp(steps, least, most);
     KeepingPlace([this] {
-        setFont(BarFont(usualEm * std::pow(step, zoom), false));
+        setFont(TextFont(usualEm * std::pow(step, zoom), false));
         FitColumn();
     });
 }

@@ -12,7 +12,8 @@
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/help/help_page.h"
 #include "platform/qt/host/host_window.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 
@@ -50,7 +51,7 @@ HelpWindow::HelpWindow() {
     setWindowTitle("Quadrel Help");
     setWindowIcon(Host().windowIcon());
     setPalette(PaperPalette());
-    setFont(BarFont(em, false));
+    setFont(TextFont(em, false));
     page = new HelpPage(this, em);
     auto* bar = new QToolBar(this);
     auto* column = new QVBoxLayout(this);

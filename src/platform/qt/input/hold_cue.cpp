@@ -3,7 +3,7 @@
 #include <QtCore/QtMath>
 #include <QtGui/QPainter>
 
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
 
 namespace {
 

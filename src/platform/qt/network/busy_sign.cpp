@@ -6,7 +6,8 @@
 
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/common/screen_layout.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 
@@ -94,9 +95,9 @@ void BusySign::PaintRing(QPainter& painter) const {
 
 void BusySign::PaintWords(QPainter& painter) const {
     painter.setPen(inkColor);
-    painter.setFont(BarFont(titleSize, true));
+    painter.setFont(TextFont(titleSize, true));
     painter.drawText(titlePlace, Qt::AlignLeft | Qt::AlignVCenter, "Downloading");
-    painter.setFont(BarFont(wordsSize, false));
+    painter.setFont(TextFont(wordsSize, false));
     painter.drawText(wordsPlace, Qt::AlignLeft | Qt::AlignVCenter, Words());
 }
 

@@ -9,7 +9,8 @@
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/input/key_codes.h"
 #include "platform/qt/look/art.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
+#include "platform/qt/look/fonts.h"
 
 QSize PictureSize(const QWidget& bar) {
     const int side = qRound(barPictureSide * ScreenMagnification() * bar.devicePixelRatioF());
@@ -68,7 +69,7 @@ bool BarButton::event(QEvent* event) {
 // picture that it explains.
 void BarButton::ShowTip() {
     constexpr int pointerHeight = 24;  // by which the toolkit moves a tip down
-    const QFont font = BarFont(10 * ScreenMagnification(), false);
+    const QFont font = TextFont(10 * ScreenMagnification(), false);
     const int height = QFontMetrics(font).height() + qRound(6 * ScreenMagnification());
     QToolTip::setFont(font);
     QPalette colors;

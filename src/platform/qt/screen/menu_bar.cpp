@@ -9,7 +9,7 @@
 #include "platform/menus.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/look/art.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
 #include "platform/qt/screen/bar_button.h"
 #include "platform/qt/screen/popups.h"
 #include "platform/qt/window/open_above.h"

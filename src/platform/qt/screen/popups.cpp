@@ -8,7 +8,7 @@
 
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/input/tap_guard.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/fonts.h"
 #include "platform/qt/screen/menu_object.h"
 #include "platform/windows.h"
 
@@ -91,7 +91,7 @@ void FillPopup(QMenu* popup, MenuObject* menu, const MenuObject* root) {
 
 void SizeWithScreen(QMenu* popup) {
     constexpr double em = 11;
-    const QFont font = BarFont(em * ScreenMagnification(), false);
+    const QFont font = TextFont(em * ScreenMagnification(), false);
     popup->setFont(font);
     for (QMenu* submenu : popup->findChildren<QMenu*>()) {
         submenu->setFont(font);

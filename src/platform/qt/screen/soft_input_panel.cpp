@@ -6,7 +6,8 @@
 #include <QtWidgets/QApplication>
 
 #include "platform/qt/common/screen_geometry.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 
@@ -77,7 +78,7 @@ void SoftInputPanel::PaintKey(QPainter& painter, size_t index) const {
     painter.setBrush(lit ? pressedColor : key.code != 0 ? specialKeyColor : keyColor);
     painter.drawRoundedRect(cap, 2 * magnification, 2 * magnification);
     painter.setPen(inkColor);
-    painter.setFont(BarFont((key.plain.size() > 1 ? 8 : 10) * magnification, false));
+    painter.setFont(TextFont((key.plain.size() > 1 ? 8 : 10) * magnification, false));
     painter.drawText(cap, Qt::AlignCenter, shift && key.code == 0 ? key.shifted : key.plain);
 }
 

@@ -4,7 +4,8 @@
 #include <algorithm>
 
 #include "platform/qt/common/screen_geometry.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ protected:
         painter.setBrush(isDown() ? pressedColor : underMouse() ? hoverColor : titleTextColor);
         painter.drawRoundedRect(pill, pill.height() / 2.0, pill.height() / 2.0);
         painter.setPen(inkColor);
-        painter.setFont(BarFont(11 * magnification, true));
+        painter.setFont(TextFont(11 * magnification, true));
         painter.drawText(pill, Qt::AlignCenter, text());
     }
 };
@@ -79,7 +80,7 @@ void TitleBar::paintEvent(QPaintEvent*) {
     const double magnification = ScreenMagnification();
     QPainter painter(this);
     painter.fillRect(rect(), titleBarColor);
-    painter.setFont(FontFor(title, BarFont(13 * magnification, true)));
+    painter.setFont(FontFor(title, TextFont(13 * magnification, true)));
     painter.setPen(titleTextColor);
     const auto inset = static_cast<int>(margin * magnification);
     painter.drawText(rect().adjusted(inset, 0, -inset, 0), Qt::AlignVCenter | Qt::AlignLeft, title);

@@ -3,7 +3,6 @@
 #include "platform/qt/surface/drawing_objects.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "platform/resources.h"
 
@@ -13,9 +12,7 @@ DrawingObject* MakeStockObject(DrawingObject::Kind kind, COLORREF color) {
     auto* object = new DrawingObject(kind);
     object->stock = true;
     object->color = ToQRgb(color);
-    if (kind == DrawingObject::Kind::Font) {
-        object->font.height = -12;
-    } else if (kind == DrawingObject::Kind::Bitmap) {
+    if (kind == DrawingObject::Kind::Bitmap) {
         object->surface = std::make_unique<Surface>(1, 1);
     }
     return object;
@@ -69,10 +66,7 @@ HBRUSH CreateSolidBrush(COLORREF color) {
 
 HFONT CreateFontIndirectW(const LOGFONTW* description) {
     auto* object = new DrawingObject(DrawingObject::Kind::Font);
-    const std::u16string_view face(description->lfFaceName);
-    object->font.face = face == u"System" ? FontChoice::Face::System : FontChoice::Face::Small;
-    object->font.bold = description->lfWeight >= 600;
-    object->font.height = description->lfHeight != 0 ? description->lfHeight : -12;
+    object->font = ToFontChoice(*description);
     object->description = *description;
     return object;
 }

@@ -18,7 +18,7 @@ struct DrawingObject {
     int selections = 0;                // contexts that hold it; it cannot be deleted meanwhile
     QRgb color = 0;                    // pens and brushes
     FontChoice font{};                 // fonts
-    LOGFONTW description;              // fonts
+    LOGFONTW description;              // fonts, as the program gave it
     std::unique_ptr<Surface> surface;  // bitmaps
 };
 

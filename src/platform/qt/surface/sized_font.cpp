@@ -5,33 +5,21 @@
 #include <cmath>
 #include <vector>
 
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 
-QFont MakeFont(const FontChoice& choice, int pixelSize) {
-    QFont font = BarFont(pixelSize, choice.bold);
-    if (choice.face == FontChoice::Face::Small) {
-        // Its digits can be told apart at seven pixels.
-        font.setFamilies(QStringList("DejaVu Sans") + font.families());
-    }
-    font.setKerning(false);
-    // Sharp horizontals, and the spacing that the face was made with: readable at seven pixels.
-    font.setHintingPreference(QFont::PreferVerticalHinting);
-    return font;
-}
-
-// How high a character cell is for its em: the face's ascent and descent together.
-constexpr double cellPerEm = 1.117;
 // What letters, accents left aside, and brackets reach above and below the baseline.
 constexpr double solidAscentPerEm = 0.78;
 constexpr double solidPitchPerEm = 1.0;
 
 SizedFont MakeSizedFont(const FontChoice& choice, double ratio) {
-    const double em = choice.height < 0 ? -choice.height : choice.height / cellPerEm;
     SizedFont sized;
-    sized.pixelSize = std::max(1, qRound(em * ratio));
-    sized.font = MakeFont(choice, sized.pixelSize);
+    sized.font = ChosenFont(choice, ratio);
+    sized.font.setKerning(false);
+    // Sharp horizontals, and the spacing that the face was made with: readable at seven pixels.
+    sized.font.setHintingPreference(QFont::PreferVerticalHinting);
+    sized.pixelSize = sized.font.pixelSize();
     const QFontMetricsF metrics(FontFor({}, sized.font));
     // Rounded up, as a whole pixel row belongs to the leading: small numbers keep off the outline.
     sized.ascent = static_cast<int>(std::ceil(metrics.ascent()));

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "platform/drawing.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 

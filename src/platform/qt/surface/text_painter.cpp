@@ -6,7 +6,7 @@
 #include <span>
 
 #include "platform/drawing.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/fonts.h"
 #include "platform/qt/surface/sized_font.h"
 #include "platform/qt/surface/text_layout.h"
 

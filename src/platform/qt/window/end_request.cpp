@@ -1,6 +1,6 @@
 #include "platform/qt/window/end_request.h"
 
-#include "platform/qt/window/message_loop.h"
+#include "platform/qt/window/messages.h"
 #include "platform/qt/window/open_above.h"
 #include "platform/qt/window/window.h"
 

@@ -1,5 +1,4 @@
-#include "platform/qt/window/message_loop.h"
-
+// The program's message loop: waiting for the next message, accelerators.
 #include <QtCore/QCoreApplication>
 #include <QtCore/QThread>
 #include <algorithm>
@@ -8,40 +7,6 @@
 #include "platform/qt/window/notices.h"
 #include "platform/qt/window/window.h"
 #include "platform/resources.h"
-
-namespace {
-
-int procedureDepth = 0;
-
-LRESULT Call(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    ++procedureDepth;
-    const LRESULT answer = window->procedure(window, message, wParam, lParam);
-    --procedureDepth;
-    return answer;
-}
-
-}  // namespace
-
-bool InsideProcedure() {
-    return procedureDepth > 0;
-}
-
-LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const bool reachable = IsLiveWindow(window) || IsMenuBar(window);
-    return reachable ? Call(window, message, wParam, lParam) : 0;
-}
-
-BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!IsLiveWindow(window)) {
-        return FALSE;
-    }
-    PostMessage({{window, message, wParam, lParam}});
-    return TRUE;
-}
-
-void PostQuitMessage(int exitCode) {
-    PostMessage({{nullptr, WM_QUIT, static_cast<WPARAM>(exitCode), 0}});
-}
 
 BOOL GetMessageW(MSG* message, HWND, UINT, UINT) {
     while (!MessagesWaiting()) {
@@ -56,10 +21,6 @@ BOOL GetMessageW(MSG* message, HWND, UINT, UINT) {
 
 BOOL TranslateMessage(const MSG*) {
     return FALSE;
-}
-
-LRESULT DispatchMessageW(const MSG* message) {
-    return SendMessageW(message->hwnd, message->message, message->wParam, message->lParam);
 }
 
 HACCEL LoadAcceleratorsW(HINSTANCE instance, int table) {

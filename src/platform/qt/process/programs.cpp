@@ -1,8 +1,7 @@
 // Starting programs: only the help viewer and the browser are there.
-#include "platform/process.h"
-
 #include <QtCore/QUrl>
 
+#include "platform/process.h"
 #include "platform/qt/help/help_window.h"
 #include "platform/qt/help/web_browser.h"
 #include "platform/qt/window/end_request.h"

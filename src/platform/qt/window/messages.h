@@ -1,4 +1,4 @@
-// Sending messages, and the loop that takes them out of the queue.
+// Sending messages and queueing them.
 #pragma once
 
 // Whether a window procedure is running, so that a new message would nest inside it.

@@ -1,6 +1,4 @@
 // Message boxes: the toolkit's own, sized with the screen.
-#include "platform/dialogs.h"
-
 #include <QtGui/QFontMetrics>
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
@@ -14,12 +12,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/dialogs.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/common/screen_layout.h"
 #include "platform/qt/controls/dialog_look.h"
 #include "platform/qt/dialogs/modal.h"
 #include "platform/qt/host/host_window.h"
-#include "platform/qt/look/look.h"
+#include "platform/qt/look/colors.h"
+#include "platform/qt/look/fonts.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ QIcon Badge(const QString& sign) {
     painter.setBrush(titleBarColor);
     painter.drawEllipse(area);
     painter.setPen(titleTextColor);
-    painter.setFont(BarFont(area.height() * 0.72, true));
+    painter.setFont(TextFont(area.height() * 0.72, true));
     painter.drawText(area, Qt::AlignCenter, sign);
     return badge;
 }

@@ -1,6 +1,4 @@
 // The file choosers: the toolkit's own.
-#include "platform/common_dialogs.h"
-
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
@@ -16,6 +14,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
 #include "platform/qt/common/device_paths.h"
 #include "platform/qt/common/screen_geometry.h"
@@ -31,7 +30,7 @@ QString StartFolder() {
     if (!lastFolder.isEmpty() && QDir(lastFolder).exists()) {
         return lastFolder;
     }
-    const QString puzzles = DocumentsFolderOnHost() + "/Quadrel Puzzles";
+    const QString puzzles = PuzzlesFolderOnHost();
     return QDir(puzzles).exists() ? puzzles : DocumentsFolderOnHost();
 }
 
@@ -99,7 +98,7 @@ QString NameFilter(const WCHAR* filter) {
 void SetUp(QFileDialog& dialog, const OPENFILENAMEW& request) {
     dialog.setWindowTitle(QString::fromUtf16(request.lpstrTitle));
     dialog.setNameFilter(NameFilter(request.lpstrFilter));
-    dialog.setSidebarUrls({QUrl::fromLocalFile(DocumentsFolderOnHost() + "/Quadrel Puzzles"),
+    dialog.setSidebarUrls({QUrl::fromLocalFile(PuzzlesFolderOnHost()),
                            QUrl::fromLocalFile(DocumentsFolderOnHost()),
                            QUrl::fromLocalFile(QDir::homePath())});
     MakeReadable(dialog);
