@@ -29,6 +29,8 @@
 #include "board/checker.h"
 #include "board/hints.h"
 #include "model/puzzle.h"
+#include "model/puzzle_file.h"
+#include "model/puzzle_parser.h"
 #include "model/selection.h"
 #include "platform/drawing.h"
 #include "platform/qt/common/screen_layout.h"

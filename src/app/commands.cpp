@@ -10,6 +10,7 @@
 #include "board/hints.h"
 #include "board/word_highlight.h"
 #include "dialogs/about.h"
+#include "dialogs/about_drawing.h"
 #include "dialogs/clue_list.h"
 #include "dialogs/download.h"
 #include "dialogs/preferences.h"

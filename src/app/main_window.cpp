@@ -4,6 +4,7 @@
 #include "app/repaint.h"
 #include "app/stylus_input.h"
 #include "app/view.h"
+#include "board/board_fonts.h"
 #include "board/board_painter.h"
 #include "board/clue_bar.h"
 #include "board/word_highlight.h"
@@ -61,9 +62,7 @@ void HandleSettingChange(HWND window, WPARAM setting) {
 
 void ShutDown() {
     DeleteOffscreenBuffer();
-    DeleteObject(LetterFont);
-    DeleteObject(NumberFont);
-    LetterFont = NumberFont = nullptr;
+    DeleteBoardFonts();
     SaveState();
     DestroyWindow(MenuBar);
     PostQuitMessage(0);

@@ -1,11 +1,10 @@
 #include "board/board_painter.h"
 
-#include <algorithm>
-#include <string_view>
-
 #include "app/view.h"
+#include "board/board_fonts.h"
 #include "board/cell_drawing.h"
 #include "board/cell_geometry.h"
+#include "board/drawing_tools.h"
 #include "model/puzzle.h"
 #include "platform/drawing.h"
 #include "play/settings.h"
@@ -18,24 +17,6 @@ struct BoardTools {
     Owned bevelPen{CreatePen(PS_SOLID, 1, BevelColor)};
     Owned outlinePen{CreatePen(PS_SOLID, 1, RGB(0, 0, 0))};
 };
-
-HFONT CreateFontOf(std::u16string_view face, int height, int weight) {
-    LOGFONTW description;
-    description.lfHeight = height;
-    description.lfWeight = weight;
-    face.copy(description.lfFaceName, LF_FACESIZE - 1);
-    return CreateFontIndirectW(&description);
-}
-
-void ReplaceFonts(HDC context) {
-    constexpr int bold = 700;
-    constexpr int leading = 2;          // pixels of a cell that no letter uses
-    constexpr int numbersPerInch = 13;  // lines of clue numbers that fit an inch
-    DeleteObject(LetterFont);
-    DeleteObject(NumberFont);
-    LetterFont = CreateFontOf(u"System", CellSize - leading, bold);
-    NumberFont = CreateFontOf(u"Arial", -(GetDeviceCaps(context, LOGPIXELSY) / numbersPerInch), 0);
-}
 
 void WhitenBuffer(HDC context) {
     const Owned whitePen(CreatePen(PS_SOLID, 1, RGB(255, 255, 255)));
@@ -76,7 +57,7 @@ void DrawCells(HDC context, const BoardTools& tools) {
     const char* grid = ShowSolution == 1 ? SolutionGrid : PlayerGrid;
     for (int row = 0; row < PuzzleHeight; ++row) {
         for (int col = 0; col < PuzzleWidth; ++col) {
-            const char letter = grid[row * PuzzleWidth + col];
+            const char letter = grid[CellIndex(row, col)];
             if (letter == blackSquare) {
                 DrawBlackSquare(context, tools, row, col);
             } else {
@@ -93,7 +74,7 @@ int PaintBoard(HWND window) {
     HDC context = OffscreenBuffer.context;
     const BoardTools tools;
     WhitenBuffer(context);
-    ReplaceFonts(context);
+    RenewBoardFonts(context);
     const Selected pen(context, tools.outlinePen);
     SetBkMode(context, TRANSPARENT);
     const COLORREF previousColor = SetTextColor(context, RGB(0, 0, 0));

@@ -3,11 +3,6 @@
 
 #include "platform/types.h"
 
-// Created anew by every PaintBoard, released by it and when the main window is destroyed; every
-// other board painter uses them, so PaintBoard comes first.
-inline HFONT LetterFont = nullptr;
-inline HFONT NumberFont = nullptr;
-
 constexpr COLORREF BevelColor = RGB(192, 192, 192);
 constexpr COLORREF SolutionColor = RGB(255, 0, 0);
 

@@ -26,7 +26,7 @@ TappedCell FindTappedCell(LPARAM point) {
 }
 
 bool HasBothWords(const TappedCell& cell) {
-    const CellRecord& record = Cells[cell.row * PuzzleWidth + cell.col];
+    const CellRecord& record = Cells[CellIndex(cell.row, cell.col)];
     return record.acrossClue != -1 && record.downClue != -1;
 }
 

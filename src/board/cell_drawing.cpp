@@ -1,7 +1,8 @@
 #include "board/cell_drawing.h"
 
-#include "board/board_painter.h"
+#include "board/board_fonts.h"
 #include "board/cell_geometry.h"
+#include "board/drawing_tools.h"
 #include "model/puzzle.h"
 #include "platform/text.h"
 #include "play/settings.h"
@@ -30,7 +31,7 @@ void DrawCellNumber(HDC context, int row, int col) {
 }
 
 void DrawCellNumberInBox(HDC context, int row, int col, const RECT& box) {
-    const int number = Cells[row * PuzzleWidth + col].clueNumber;
+    const int number = Cells[CellIndex(row, col)].clueNumber;
     if (!NumbersShown() || number == 0 || number == -1) {
         return;
     }

@@ -3,6 +3,7 @@
 #include "app/view.h"
 #include "board/board_painter.h"
 #include "board/cell_drawing.h"
+#include "board/drawing_tools.h"
 #include "model/puzzle.h"
 #include "platform/dialogs.h"
 #include "platform/drawing.h"
@@ -23,7 +24,7 @@ struct CheckTools {
 };
 
 void DrawCheckedLetter(HDC context, int row, int col, CheckCount& count) {
-    const int cell = row * PuzzleWidth + col;
+    const int cell = CellIndex(row, col);
     const char letter = PlayerGrid[cell];
     if (letter == SolutionGrid[cell]) {
         DrawCellLetter(context, row, col, letter);
@@ -38,7 +39,7 @@ void DrawCheckedLetter(HDC context, int row, int col, CheckCount& count) {
 }
 
 void DrawCheckedCell(HDC context, const CheckTools& tools, int row, int col, CheckCount& count) {
-    if (SolutionGrid[row * PuzzleWidth + col] == blackSquare) {
+    if (SolutionGrid[CellIndex(row, col)] == blackSquare) {
         const Selected brush(context, tools.blackSquareBrush);
         DrawCellSquare(context, row, col);
         ++count.blackSquares;

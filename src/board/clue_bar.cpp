@@ -1,11 +1,10 @@
 #include "board/clue_bar.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 
 #include "app/view.h"
-#include "board/cell_drawing.h"
+#include "board/drawing_tools.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
 #include "platform/drawing.h"
@@ -26,26 +25,16 @@ int BarTop(const RECT& client) {
     return client.bottom - (!panelUp && KeyboardVisible == 1 ? keyboardReserve : clueBarReserve);
 }
 
-HFONT CreateBarFont(HDC context) {
-    constexpr std::u16string_view face = u"System";
-    constexpr int linesPerInch = 9;
-    LOGFONTW description;
-    description.lfHeight = -(GetDeviceCaps(context, LOGPIXELSY) / linesPerInch);
-    face.copy(description.lfFaceName, LF_FACESIZE - 1);
-    return CreateFontIndirectW(&description);
-}
-
 // Null when the selected cell has no word in the current direction.
 const WordRecord* FindSelectedWord() {
     const int key = ClueIndexAt(CursorRow, CursorCol, Direction);
     if (key == -1) {
         return nullptr;
     }
-    const auto& list = Direction == 0 ? AcrossList : DownList;
-    const auto found =
-        std::find_if(std::begin(list), std::end(list),
-                     [key](const WordRecord& word) { return word.clueIndex == key; });
-    return found == std::end(list) ? nullptr : &*found;
+    const WordList list = ListedWords(Direction);
+    const auto found = std::find_if(
+        list.begin(), list.end(), [key](const WordRecord& word) { return word.clueIndex == key; });
+    return found == list.end() ? nullptr : &*found;
 }
 
 std::u16string BarText() {
@@ -64,7 +53,8 @@ void DrawBarText(HDC context, const RECT& bar) {
 }
 
 void DrawBar(HDC context, const RECT& bar) {
-    const Owned barFont(CreateBarFont(context));
+    constexpr int linesPerInch = 9;
+    const Owned barFont(CreateFontOf(u"System", HeightOfLines(context, linesPerInch)));
     const Owned whitePen(CreatePen(PS_SOLID, 1, RGB(255, 255, 255)));
     const Selected font(context, barFont);
     const Selected pen(context, whitePen);

@@ -5,6 +5,7 @@
 #include "board/cell_drawing.h"
 #include "board/cell_geometry.h"
 #include "board/clue_bar.h"
+#include "board/drawing_tools.h"
 #include "board/word_highlight.h"
 #include "keyboard/keyboard_drawing.h"
 #include "model/puzzle.h"
@@ -21,7 +22,7 @@ void FinishHint(HWND window) {
 }
 
 void DrawSolutionLetter(HDC context, int row, int col) {
-    const char letter = SolutionGrid[row * PuzzleWidth + col];
+    const char letter = SolutionGrid[CellIndex(row, col)];
     if (letter != blackSquare) {
         DrawCellLetter(context, row, col, letter);
     }

@@ -2,6 +2,7 @@
 
 #include "app/view.h"
 #include "board/cell_drawing.h"
+#include "board/drawing_tools.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
 #include "platform/drawing.h"
@@ -11,7 +12,7 @@ namespace {
 
 void DrawWordLetters(HDC context) {
     ForEachCellOfWord([context](int row, int col) {
-        const char letter = PlayerGrid[row * PuzzleWidth + col];
+        const char letter = PlayerGrid[CellIndex(row, col)];
         if (letter != emptyCell) {
             DrawCellLetter(context, row, col, letter);
         }

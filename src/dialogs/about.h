@@ -7,9 +7,4 @@
 // About box and by start-up.
 inline int AboutAnimating = 1;
 
-// Where the moving pieces are, in logical pixels: the x of the left piece, the y of the top piece
-// and the x of the right one. Written by ResetLogoPieces and the animation.
-inline int LogoPieces[3] = {0, 0, 240};
-
-void ResetLogoPieces();
 void ShowAbout(HWND owner);

@@ -1,8 +1,6 @@
 #include "dialogs/about_drawing.h"
 
-#include "dialogs/about.h"
-#include "platform/drawing.h"
-#include "platform/resources.h"
+#include "board/drawing_tools.h"
 #include "platform/windows.h"
 #include "resources/ids.h"
 
@@ -23,23 +21,13 @@ constexpr int leftStep = 2;
 constexpr int topStep = 4;
 constexpr int rightStep = 3;
 
-void DrawBitmap(HDC context, int id, int x, int y, int width, int height) {
-    HDC memory = CreateCompatibleDC(context);
-    HBITMAP bitmap = LoadBitmapW(&programResources, id);
-    HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(context, x, y, width, height, memory, 0, 0, SRCCOPY);
-    SelectObject(memory, before);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-}
-
 void DrawOnScreen(HWND dialog, void (*draw)(HDC)) {
     HDC context = GetDC(dialog);
-    PAINTSTRUCT paint;
-    BeginPaint(dialog, &paint);
-    Rectangle(context, 0, 0, screenWidth, screenHeight);
-    draw(context);
-    EndPaint(dialog, &paint);
+    {
+        const PaintBracket bracket(dialog);
+        Rectangle(context, 0, 0, screenWidth, screenHeight);
+        draw(context);
+    }
     ReleaseDC(dialog, context);
     UpdateWindow(dialog);
 }
@@ -53,9 +41,9 @@ void MovePieces() {
 
 void DrawPieces(HDC context) {
     const auto& [left, top, right] = LogoPieces;
-    DrawBitmap(context, bitmapLogoLeft, left, across, 62, 91);
-    DrawBitmap(context, bitmapLogoTop, across, top, 64, 84);
-    DrawBitmap(context, bitmapLogoRight, right, across, 27, 84);
+    DrawPicture(context, bitmapLogoLeft, {left, across, left + 62, across + 91});
+    DrawPicture(context, bitmapLogoTop, {across, top, across + 64, top + 84});
+    DrawPicture(context, bitmapLogoRight, {right, across, right + 27, across + 84});
 }
 
 }  // namespace
@@ -77,6 +65,6 @@ void DrawAboutFrame(HWND dialog) {
 
 void DrawAboutPicture(HWND dialog) {
     DrawOnScreen(dialog, [](HDC context) {
-        DrawBitmap(context, bitmapAbout, 0, 0, screenWidth, screenHeight);
+        DrawPicture(context, bitmapAbout, {0, 0, screenWidth, screenHeight});
     });
 }

@@ -9,6 +9,7 @@
 #include "platform/controls.h"
 #include "platform/text.h"
 #include "platform/windows.h"
+#include "play/word_extent.h"
 #include "resources/ids.h"
 
 namespace {
@@ -26,27 +27,17 @@ std::u16string ClueLine(const WordRecord& word, int tab) {
     return line + DecimalText(word.length) + u")";
 }
 
-const WordRecord* ListOfTab(int tab) {
-    return tab == acrossTab ? AcrossList : tab == downTab ? DownList : nullptr;
-}
-
 void FillClueList(HWND dialog, int tab) {
     constexpr WPARAM extent = 300;
     HWND list = GetDlgItem(dialog, controlClues);
     SendMessageW(list, LB_RESETCONTENT, 0, 0);
     SendMessageW(list, LB_SETHORIZONTALEXTENT, extent, 0);
-    const WordRecord* words = ListOfTab(tab);
-    for (int i = 0; words != nullptr && i < maxWords; ++i) {
-        if (words[i].clueIndex != none) {
-            const std::u16string line = ClueLine(words[i], tab);
+    for (const WordRecord& word : ListedWords(tab)) {
+        if (word.clueIndex != none) {
+            const std::u16string line = ClueLine(word, tab);
             SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
         }
     }
-}
-
-void SetCursorFromIndex(int cell) {
-    CursorRow = cell / PuzzleWidth;
-    CursorCol = cell % PuzzleWidth;
 }
 
 void AddTabs(HWND tabs) {
@@ -87,24 +78,14 @@ LRESULT ShowChoice(HWND dialog) {
     return line;
 }
 
-void SelectWord(const WordRecord& word, int direction) {
-    Direction = direction;
-    const int cells = PuzzleWidth * PuzzleHeight;
-    for (int cell = 0; cell < cells; ++cell) {
-        if (Cells[cell].clueNumber == word.clueNumber) {
-            SetCursorFromIndex(cell);
-            return;
-        }
-    }
-}
-
 void ChooseClue(HWND dialog) {
     const LRESULT line = ShowChoice(dialog);
     if (line < 0 || line >= maxWords) {
         return;
     }
     ClueChosen = 1;
-    SelectWord(ListOfTab(ClueListTab)[line], ClueListTab);
+    Direction = ClueListTab;
+    SelectCellOfNumber(ListedWords(ClueListTab)[static_cast<std::size_t>(line)].clueNumber);
     CloseDialogBox(dialog);
 }
 

@@ -8,7 +8,7 @@
 #include "app/view.h"
 #include "dialogs/first_block.h"
 #include "model/path_buffer.h"
-#include "model/puzzle.h"
+#include "model/puzzle_file.h"
 #include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
 #include "platform/errors.h"

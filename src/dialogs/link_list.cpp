@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "model/file_start.h"
+#include "model/file_bytes.h"
 #include "model/path_buffer.h"
 #include "platform/files.h"
 #include "platform/text.h"
@@ -59,18 +59,6 @@ std::vector<std::u16string> SplitLinks(std::string_view bytes) {
     return links;
 }
 
-bool WriteFileOf(const WCHAR* path, const std::string& bytes) {
-    HANDLE file =
-        CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return false;
-    }
-    DWORD count = 0;
-    const bool written =
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
-    return CloseHandle(file) && written;
-}
-
 }  // namespace
 
 bool ReadLinks(std::vector<std::u16string>& links) {
@@ -97,5 +85,5 @@ void WriteLinks(const std::vector<std::u16string>& links) {
     for (const std::u16string& link : links) {
         bytes.append(NarrowLink(link)).push_back('\0');
     }
-    WriteFileOf(path, bytes);
+    WriteWholeFile(path, bytes);
 }

@@ -1,24 +1,13 @@
 #include "keyboard/keyboard_drawing.h"
 
-#include <string_view>
-
 #include "app/view.h"
-#include "board/cell_drawing.h"
+#include "board/drawing_tools.h"
 #include "platform/drawing.h"
 #include "resources/ids.h"
 
 namespace {
 
 constexpr COLORREF pressedKeyColor = RGB(255, 255, 2);
-
-HFONT CreateLabelFont() {
-    constexpr std::u16string_view face = u"Arial";
-    constexpr int linesPerInch = 9;
-    LOGFONTW description;
-    description.lfHeight = -(GetDeviceCaps(OffscreenBuffer.context, LOGPIXELSY) / linesPerInch);
-    face.copy(description.lfFaceName, LF_FACESIZE - 1);
-    return CreateFontIndirectW(&description);
-}
 
 void DrawLabel(HDC context, const RECT& key, const WCHAR* label) {
     RECT box{key.left + 1, key.top + 1, key.right - 1, key.bottom - 1};
@@ -31,15 +20,7 @@ void DrawLabel(HDC context, const RECT& key, const WCHAR* label) {
 
 void DrawKeyboard(HWND window) {
     HDC windowContext = GetDC(window);
-    HDC pictureContext = CreateCompatibleDC(windowContext);
-    const Owned picture(LoadBitmapW(&programResources, bitmapKeyboard));
-    {
-        const Selected bitmap(pictureContext, picture);
-        BitBlt(windowContext, keyboardArea.left, keyboardArea.top,
-               keyboardArea.right - keyboardArea.left, keyboardArea.bottom - keyboardArea.top,
-               pictureContext, 0, 0, SRCCOPY);
-    }
-    DeleteDC(pictureContext);
+    DrawPicture(windowContext, bitmapKeyboard, keyboardArea);
     ReleaseDC(window, windowContext);
 }
 
@@ -51,9 +32,10 @@ void DrawKeyboardIfVisible(HWND window) {
 
 void DrawPressedKey(HWND window, const RECT& key, const WCHAR* label) {
     constexpr int cornerEllipse = 2;
+    constexpr int linesPerInch = 9;
     HDC context = GetDC(window);
     {
-        const Owned labelFont(CreateLabelFont());
+        const Owned labelFont(CreateFontOf(u"Arial", HeightOfLines(context, linesPerInch)));
         const Owned outlinePen(CreatePen(PS_SOLID, 1, RGB(0, 0, 0)));
         const Owned keyBrush(CreateSolidBrush(pressedKeyColor));
         const Selected font(context, labelFont);

@@ -59,45 +59,13 @@ void NumberCell(const Board& board, int row, int col, Numbering& next) {
     }
 }
 
-void ComputeAcrossLengths() {
-    int word = 0;
-    for (int row = 0; row < PuzzleHeight; ++row) {
-        const CellRecord* cells = Cells + row * PuzzleWidth;
-        for (int col = 0; col < PuzzleWidth;) {
-            const int clue = cells[col].acrossClue;
-            const int start = col++;
-            while (col < PuzzleWidth && clue != -1 && cells[col].acrossClue == clue) {
-                ++col;
-            }
-            if (clue != -1 && word < maxWords) {
-                AcrossList[word++].length = col - start;
-            }
-        }
-    }
-}
-
-void SetDownLength(int clue, int length) {
-    WordRecord* end = std::end(DownList);
-    WordRecord* word = std::find_if(std::begin(DownList), end, [clue](const WordRecord& record) {
-        return record.clueIndex == clue;
-    });
-    if (word != end) {
-        word->length = length;
-    }
-}
-
-void ComputeDownLengths() {
-    for (int col = 0; col < PuzzleWidth; ++col) {
-        const CellRecord* cells = Cells + col;
-        for (int row = 0; row < PuzzleHeight;) {
-            const int clue = cells[row * PuzzleWidth].downClue;
-            const int start = row++;
-            while (row < PuzzleHeight && clue != -1 && cells[row * PuzzleWidth].downClue == clue) {
-                ++row;
-            }
-            if (clue != -1) {
-                SetDownLength(clue, row - start);
-            }
+// A word is as long as it has cells; nothing depends on the order of the list.
+void ComputeLengths(WordList words, std::int32_t CellRecord::*clue) {
+    for (WordRecord& word : words) {
+        if (word.clueIndex != -1) {
+            word.length = static_cast<std::int32_t>(std::count_if(
+                Cells, Cells + CellCount(),
+                [&](const CellRecord& cell) { return cell.*clue == word.clueIndex; }));
         }
     }
 }
@@ -136,7 +104,7 @@ bool ComputeWordLengths() {
     if (!BoardFitsArrays()) {
         return false;
     }
-    ComputeAcrossLengths();
-    ComputeDownLengths();
+    ComputeLengths(AcrossList, &CellRecord::acrossClue);
+    ComputeLengths(DownList, &CellRecord::downClue);
     return true;
 }

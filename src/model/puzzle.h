@@ -4,11 +4,10 @@
 // first PuzzleWidth * PuzzleHeight entries belong to the puzzle.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
-#include <string>
-
-#include "platform/types.h"
+#include <span>
 
 constexpr int maxSide = 40;
 constexpr int maxCells = maxSide * maxSide;
@@ -76,24 +75,22 @@ inline WordRecord DownList[maxWords];
 // alone. Written by start-up, OpenPuzzleFile and ParseWithRestoredGrid.
 inline int ResetPlayerGrid = 1;
 
-// Takes a path buffer of 260 wide characters. False when the file cannot be opened, or when it is
-// no puzzle that these arrays hold, which the player is told; the path buffer then says "Could not
-// open the file" and PuzzleImage is unchanged. A puzzle that is not square, or of size 0, is read.
-bool ReadPuzzleFile(WCHAR* path);
+// The words of a direction, 0 across or 1 down.
+using WordList = std::span<WordRecord, maxWords>;
+inline WordList ListedWords(int direction) {
+    return direction == 0 ? WordList(AcrossList) : WordList(DownList);
+}
 
-// The size of a file that ReadPuzzleFile would read, which need not be square. False when it would
-// not read the file; nobody is told, and nothing changes.
-bool PeekPuzzleSize(const WCHAR* path, int* width, int* height);
+// Of the puzzle in play, never more than the arrays hold.
+inline int CellCount() {
+    return std::clamp(PuzzleWidth * PuzzleHeight, 0, maxCells);
+}
+inline int CellIndex(int row, int col) {
+    return row * PuzzleWidth + col;
+}
 
-// The two size bytes and the solution: what makes two files the same puzzle, to which a player's
-// letters belong. Of a file that can be played, empty for any other; and of the puzzle in play,
-// whose size must fit the arrays.
-std::string SolutionOfFile(const WCHAR* path);
-std::string SolutionInPlay();
-// A solution that was corrected is the same puzzle's still; another one of the same size, and even
-// of the same black squares, has few letters in common.
-bool IsSamePuzzle(const std::string& solution, const std::string& other);
-
-// Builds the model from PuzzleImage and puts the selection on the top-left cell. Without a word, it
-// stops after the sizes when the puzzle is not square, and makes both sizes 15 when they are 0.
-void ParsePuzzle();
+// Makes PlayerGrid an empty grid with the black squares of these cells, CellCount of them.
+inline void EmptyPlayerGrid(const char* cells) {
+    std::transform(cells, cells + CellCount(), PlayerGrid,
+                   [](char cell) { return cell == blackSquare ? blackSquare : emptyCell; });
+}

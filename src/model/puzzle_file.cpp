@@ -1,9 +1,11 @@
+#include "model/puzzle_file.h"
+
 #include <array>
 #include <cstring>
 #include <functional>
 #include <numeric>
 
-#include "model/file_start.h"
+#include "model/file_bytes.h"
 #include "model/numbering.h"
 #include "model/path_buffer.h"
 #include "model/puzzle.h"

@@ -8,10 +8,6 @@
 
 namespace {
 
-int CellCount() {
-    return std::clamp(PuzzleWidth * PuzzleHeight, 0, maxCells);
-}
-
 void FillCell(int cell) {
     if (PlayerGrid[cell] != blackSquare) {
         PlayerGrid[cell] = SolutionGrid[cell];
@@ -35,11 +31,11 @@ void ClearLetter() {
 }
 
 void FillWord() {
-    ForEachCellOfWord([](int row, int col) { FillCell(row * PuzzleWidth + col); });
+    ForEachCellOfWord([](int row, int col) { FillCell(CellIndex(row, col)); });
 }
 
 void ClearWord() {
-    ForEachCellOfWord([](int row, int col) { ClearCell(row * PuzzleWidth + col); });
+    ForEachCellOfWord([](int row, int col) { ClearCell(CellIndex(row, col)); });
 }
 
 void FillPuzzle() {
@@ -47,6 +43,5 @@ void FillPuzzle() {
 }
 
 void ClearPuzzle() {
-    std::transform(SolutionGrid, SolutionGrid + CellCount(), PlayerGrid,
-                   [](char cell) { return cell == blackSquare ? blackSquare : emptyCell; });
+    EmptyPlayerGrid(SolutionGrid);
 }

@@ -30,8 +30,8 @@ int& CursorInWord() {
 }
 
 char PlayerCellInWord(int position) {
-    return Direction == 0 ? PlayerGrid[CursorRow * PuzzleWidth + position]
-                          : PlayerGrid[position * PuzzleWidth + CursorCol];
+    return Direction == 0 ? PlayerGrid[CellIndex(CursorRow, position)]
+                          : PlayerGrid[CellIndex(position, CursorCol)];
 }
 
 // The first empty cell from the selected one on, or the word's last cell. A black square in the

@@ -1,18 +1,21 @@
 #include "play/word_extent.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "model/puzzle.h"
 #include "model/selection.h"
 
 bool IsOnBoard(int row, int col) {
     return row >= 0 && row < PuzzleHeight && col >= 0 && col < PuzzleWidth &&
-           row * PuzzleWidth + col < maxCells;
+           CellIndex(row, col) < maxCells;
 }
 
 int ClueIndexAt(int row, int col, int direction) {
     if (!IsOnBoard(row, col)) {
         return -1;
     }
-    const CellRecord& cell = Cells[row * PuzzleWidth + col];
+    const CellRecord& cell = Cells[CellIndex(row, col)];
     return direction == 0 ? cell.acrossClue : cell.downClue;
 }
 
@@ -37,8 +40,25 @@ WordExtent FindWordExtent(int row, int col, int direction) {
     return word;
 }
 
+void SetCursorFromIndex(int cell) {
+    CursorRow = cell / PuzzleWidth;
+    CursorCol = cell % PuzzleWidth;
+}
+
+bool SelectCellOfNumber(int clueNumber) {
+    const CellRecord* end = Cells + CellCount();
+    const CellRecord* found = std::find_if(
+        std::cbegin(Cells), end,
+        [clueNumber](const CellRecord& cell) { return cell.clueNumber == clueNumber; });
+    if (clueNumber == -1 || found == end) {
+        return false;
+    }
+    SetCursorFromIndex(static_cast<int>(found - Cells));
+    return true;
+}
+
 int SelectedCell() {
-    return IsOnBoard(CursorRow, CursorCol) ? CursorRow * PuzzleWidth + CursorCol : 0;
+    return IsOnBoard(CursorRow, CursorCol) ? CellIndex(CursorRow, CursorCol) : 0;
 }
 
 WordExtent FindSelectedExtent() {

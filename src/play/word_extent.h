@@ -1,4 +1,4 @@
-// Where words lie on the board, and the selected one.
+// Where words and their numbers lie on the board, and the selected word.
 #pragma once
 
 #include "model/selection.h"
@@ -18,6 +18,13 @@ int ClueIndexAt(int row, int col, int direction);
 
 // The cell itself when it has no word in that direction.
 WordExtent FindWordExtent(int row, int col, int direction);
+
+// Selects a cell by its index in the grids.
+void SetCursorFromIndex(int cell);
+
+// Selects the cell that carries the clue number. False, with the selection unchanged, when none
+// does; -1 is no number.
+bool SelectCellOfNumber(int clueNumber);
 
 // The selected cell's index in the grids, 0 when the selection is off the board.
 int SelectedCell();

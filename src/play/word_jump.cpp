@@ -1,15 +1,12 @@
 #include "play/word_jump.h"
 
 #include <algorithm>
-#include <span>
 
 #include "model/puzzle.h"
 #include "model/selection.h"
 #include "play/word_extent.h"
 
 namespace {
-
-using WordList = std::span<const WordRecord, maxWords>;
 
 // A clue number that is not listed, such as that of a cell without a word, is at the list's end.
 int PositionOf(WordList list, int clueNumber) {
@@ -23,7 +20,7 @@ int SelectedWordNumber() {
     const int first = FindSelectedExtent().first;
     const int row = Direction == 0 ? CursorRow : first;
     const int col = Direction == 0 ? first : CursorCol;
-    return IsOnBoard(row, col) ? Cells[row * PuzzleWidth + col].clueNumber : -1;
+    return IsOnBoard(row, col) ? Cells[CellIndex(row, col)].clueNumber : -1;
 }
 
 // -1 when there is no such word.
@@ -33,16 +30,6 @@ int NumberAfterJump(WordList list, bool forward) {
     return listed ? list[static_cast<std::size_t>(position)].clueNumber : -1;
 }
 
-int CellOfNumber(int clueNumber) {
-    const int count = std::clamp(PuzzleWidth * PuzzleHeight, 0, maxCells);
-    for (int i = 0; clueNumber != -1 && i < count; ++i) {
-        if (Cells[i].clueNumber == clueNumber) {
-            return i;
-        }
-    }
-    return 0;
-}
-
 }  // namespace
 
 void ToggleDirection() {
@@ -50,9 +37,8 @@ void ToggleDirection() {
 }
 
 void JumpToWord(bool forward) {
-    const WordList list(Direction == 0 ? AcrossList : DownList);
-    const int cell = CellOfNumber(NumberAfterJump(list, forward));
-    const int width = std::max(PuzzleWidth, 1);
-    CursorRow = cell / width;
-    CursorCol = cell % width;
+    const int number = NumberAfterJump(ListedWords(Direction), forward);
+    if (!SelectCellOfNumber(number)) {
+        CursorRow = CursorCol = 0;
+    }
 }

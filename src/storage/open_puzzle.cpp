@@ -3,6 +3,7 @@
 #include <string>
 
 #include "model/puzzle.h"
+#include "model/puzzle_file.h"
 #include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"

@@ -8,9 +8,10 @@
 #include <string>
 #include <string_view>
 
-#include "model/file_start.h"
+#include "model/file_bytes.h"
 #include "model/path_buffer.h"
 #include "model/puzzle.h"
+#include "model/puzzle_file.h"
 #include "platform/files.h"
 #include "platform/text.h"
 #include "play/settings.h"
@@ -91,18 +92,6 @@ ProgressRecord BuildRecord() {
     std::copy(path.begin(), path.end(), record.begin());
     PutSettings(record, PutBoard(record, path.size() + 1));
     return record;
-}
-
-bool WriteRecord(const WCHAR* path, const ProgressRecord& record) {
-    HANDLE file =
-        CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return false;
-    }
-    DWORD count = 0;
-    const bool written = WriteFile(file, record.data(), recordSize, &count, nullptr);
-    const bool closed = CloseHandle(file);
-    return written && closed && count == recordSize;
 }
 
 // Nothing when the record ends before the number does. No digits are 0; a number too large for any
@@ -200,7 +189,8 @@ void RestoreSettings(std::string_view record, std::size_t cellsEnd) {
 }  // namespace
 
 void SaveProgress(WCHAR* path) {
-    if (!WriteRecord(path, BuildRecord())) {
+    const ProgressRecord record = BuildRecord();
+    if (!WriteWholeFile(path, {record.data(), record.size()})) {
         CopyPath(u"Could not open quadrel.dat", path);
     }
 }

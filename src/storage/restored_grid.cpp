@@ -1,12 +1,13 @@
 #include "storage/restored_grid.h"
 
 #include "model/puzzle.h"
+#include "model/puzzle_parser.h"
 
 namespace {
 
 // Some files' two grids disagree about a square; letters saved with either are the puzzle's.
 bool BlackSquaresAgree() {
-    const int count = PuzzleWidth * PuzzleHeight;
+    const int count = CellCount();
     const char* fileGrid = PuzzleImage + gridOffset + count;
     for (int i = 0; i < count; ++i) {
         const bool black = PlayerGrid[i] == blackSquare;

@@ -3,6 +3,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 
+#include "dialogs/about_drawing.h"
 #include "platform/qt/window/window.h"
 #include "resources/ids.h"
 #include "support/dialogs.h"

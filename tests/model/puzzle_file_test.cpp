@@ -1,8 +1,11 @@
+#include "model/puzzle_file.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <memory>
 
+#include "model/puzzle_parser.h"
 #include "platform/types.h"
 #include "support/boards.h"
 #include "support/message_boxes.h"

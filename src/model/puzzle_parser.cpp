@@ -1,10 +1,11 @@
-#include "model/puzzle.h"
+#include "model/puzzle_parser.h"
 
 #include <algorithm>
 #include <cstring>
 #include <string>
 
 #include "model/numbering.h"
+#include "model/puzzle.h"
 #include "model/selection.h"
 #include "platform/dialogs.h"
 
@@ -20,10 +21,6 @@ void ClearRecords() {
 
 int SizeAt(int offset) {
     return static_cast<signed char>(PuzzleImage[offset]);
-}
-
-int CellCount() {
-    return PuzzleWidth * PuzzleHeight;
 }
 
 // The text at the position, which moves past its end. Past the image every text is empty.
@@ -70,17 +67,10 @@ void TakeClues(int position) {
     }
 }
 
-// Only the black squares of the file's own player grid; its letters are dropped.
-void TakePlayerGrid() {
-    const char* grid = PuzzleImage + gridOffset + CellCount();
-    std::transform(grid, grid + CellCount(), PlayerGrid,
-                   [](char cell) { return cell == blackSquare ? blackSquare : emptyCell; });
-}
-
 void TakeContents() {
     std::memcpy(SolutionGrid, PuzzleImage + gridOffset, static_cast<std::size_t>(CellCount()));
     if (ResetPlayerGrid == 1) {
-        TakePlayerGrid();
+        EmptyPlayerGrid(PuzzleImage + gridOffset + CellCount());
     }
     int position = gridOffset + 2 * CellCount();
     TakeTitle(position);

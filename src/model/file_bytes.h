@@ -1,10 +1,14 @@
-// Reading the beginning of a file.
+// Reading the beginning of a file, and writing a whole one.
 #pragma once
 
 #include <span>
+#include <string_view>
 
 #include "platform/types.h"
 
 // Reads until the buffer is full or the file ends. Returns the bytes read, -1 when the file cannot
 // be opened or read.
 int ReadFileStart(const WCHAR* path, std::span<char> buffer);
+
+// False when the file cannot be created or written; an old file then stays as it was.
+bool WriteWholeFile(const WCHAR* path, std::string_view bytes);

@@ -1,4 +1,4 @@
-#include "model/file_start.h"
+#include "model/file_bytes.h"
 
 #include "platform/files.h"
 
@@ -19,4 +19,17 @@ int ReadFileStart(const WCHAR* path, std::span<char> buffer) {
     }
     CloseHandle(file);
     return readable ? static_cast<int>(total) : -1;
+}
+
+bool WriteWholeFile(const WCHAR* path, std::string_view bytes) {
+    HANDLE file =
+        CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    DWORD count = 0;
+    const auto size = static_cast<DWORD>(bytes.size());
+    const bool written = WriteFile(file, bytes.data(), size, &count, nullptr);
+    const bool closed = CloseHandle(file);
+    return written && closed && count == size;
 }
