@@ -1,21 +1,20 @@
 #include "app/commands.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "app/layout.h"
 #include "app/menu_checks.h"
 #include "app/repaint.h"
 #include "app/view.h"
-#include "board/board_painter.h"
 #include "board/checker.h"
-#include "board/clue_bar.h"
 #include "board/hints.h"
-#include "board/word_highlight.h"
 #include "dialogs/about.h"
 #include "dialogs/about_drawing.h"
 #include "dialogs/clue_list.h"
 #include "dialogs/download.h"
 #include "dialogs/preferences.h"
 #include "dialogs/quick_help.h"
-#include "keyboard/keyboard_drawing.h"
 #include "keyboard/keyboard_visibility.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
@@ -55,10 +54,8 @@ void CheckAndCopy(HWND window) {
 
 void TurnDirection(HWND window) {
     ToggleDirection();
-    PaintBoard(window);
-    PaintWordHighlight(window);
-    PaintClueBar(window);
-    CopyViewToScreen(window);
+    PaintBoardAndSelection(window);
+    ShowBoard(window);
 }
 
 void ToggleKeyboard(HWND window) {
@@ -69,12 +66,20 @@ void ToggleKeyboard(HWND window) {
     }
 }
 
-void ChooseSize(HWND window, const MagnificationFlags& size) {
-    Magnification = size;
+// False when no size has this command.
+bool ChangeSize(HWND window, int command) {
+    const BoardSize* size =
+        std::find_if(std::begin(boardSizes), std::end(boardSizes),
+                     [command](const BoardSize& one) { return one.command == command; });
+    if (size == std::end(boardSizes)) {
+        return false;
+    }
+    ChooseSize(*size);
     CursorRow = CursorCol = 0;
     UpdateMenuChecks();
     ComputeLayout(window);
     Repaint(window);
+    return true;
 }
 
 void ToggleAutoSkip() {
@@ -96,10 +101,8 @@ void ChangeGrid(HWND window, void (*change)()) {
 void ChangePreferences(HWND window) {
     ShowPreferences(window);
     ComputeLayout(window);
-    PaintBoard(window);
-    PaintWordHighlight(window);
-    PaintClueBar(window);
-    CopyViewToScreen(window);
+    PaintBoardAndSelection(window);
+    ShowBoard(window);
 }
 
 void ShowAboutAnew(HWND window) {
@@ -135,9 +138,6 @@ bool RunCommand(HWND window, int command) {
         case commandKeyboard: ToggleKeyboard(window); return true;
         case commandMainMenu:
         case commandSizeMenu: UpdateMenuChecks(); return true;
-        case commandSmall: ChooseSize(window, {1, 0, 0}); return true;
-        case commandMedium: ChooseSize(window, {0, 1, 0}); return true;
-        case commandLarge: ChooseSize(window, {0, 0, 1}); return true;
         case commandAutoSkip: ToggleAutoSkip(); return true;
         case commandNumbers: ToggleNumbers(window); return true;
         case commandFillLetter: ChangeGrid(window, FillLetter); return true;
@@ -155,6 +155,6 @@ bool RunCommand(HWND window, int command) {
         case commandAbout: ShowAboutAnew(window); return true;
         case commandDownload: ShowDownload(window); return true;
         case commandPuzzleInfo: ShowPuzzleInfo(window); return true;
-        default: return false;
+        default: return ChangeSize(window, command);
     }
 }

@@ -23,23 +23,19 @@ int Dragged(int scroll, int move, int visible, int extent) {
 }  // namespace
 
 bool BoardExceedsView(HWND window) {
-    RECT client;
-    GetClientRect(window, &client);
-    return PuzzleWidth * CellSize > client.right - client.left ||
-           PuzzleHeight * CellSize > client.bottom - client.top - BottomReserve;
+    const RECT view = BoardViewArea(window);
+    return PuzzleWidth * CellSize > view.right || PuzzleHeight * CellSize > view.bottom;
 }
 
 void DragScroll(HWND window) {
-    if (Magnification.Medium == 0 && Magnification.Large == 0) {
+    if (ChosenSize().FitsView()) {
         return;
     }
-    RECT client;
-    GetClientRect(window, &client);
+    const RECT view = BoardViewArea(window);
     // A buffer of the window's size reaches beyond a board that is narrower than the window.
     const int boardBottom = std::min(BufferHeight, PuzzleHeight * CellSize + 1);
-    ScrollX = Dragged(ScrollX, StylusNow.x - StylusLast.x, client.right, BufferWidth);
-    ScrollY =
-        Dragged(ScrollY, StylusNow.y - StylusLast.y, client.bottom - BottomReserve, boardBottom);
+    ScrollX = Dragged(ScrollX, StylusNow.x - StylusLast.x, view.right, BufferWidth);
+    ScrollY = Dragged(ScrollY, StylusNow.y - StylusLast.y, view.bottom, boardBottom);
     StylusLast = StylusNow;
     CopyViewToScreen(window);
 }

@@ -9,14 +9,6 @@
 
 namespace {
 
-constexpr int mediumCell = 20;
-constexpr int largeCell = 24;
-
-int ReserveForPanels() {
-    const bool panelUp = (SipInfo.fdwFlags & SIPF_ON) != 0;
-    return !panelUp && KeyboardVisible == 1 ? keyboardReserve : clueBarReserve;
-}
-
 // A small board fits the width, too: it cannot be scrolled.
 int FittingCell(int width, int height) {
     const int byHeight = height / std::max(PuzzleHeight, 1);
@@ -25,17 +17,15 @@ int FittingCell(int width, int height) {
 }
 
 int ChooseCellSize(int width, int height) {
-    if (Magnification.Medium == 1) {
-        return mediumCell;
-    }
-    return Magnification.Large == 1 ? largeCell : FittingCell(width, height);
+    const BoardSize& size = ChosenSize();
+    return size.FitsView() ? FittingCell(width, height) : size.cellSide;
 }
 
 // A narrow board may still be higher than the window while the soft input panel is up; its lower
 // rows are there to be scrolled to. A small board always fits.
 int ViewRows(const RECT& client, int boardHeight) {
     const int height = client.bottom - client.top;
-    return Magnification.Small == 1 ? height : std::max(height, boardHeight + 1);
+    return ChosenSize().FitsView() ? height : std::max(height, boardHeight + 1);
 }
 
 }  // namespace
@@ -46,7 +36,7 @@ void ComputeLayout(HWND window) {
     RECT client;
     GetClientRect(window, &client);
     if (QuerySipInfo()) {
-        BottomReserve = ReserveForPanels();
+        BottomReserve = ReserveBelowBoard();
     }
     ViewWidth = client.right - client.left;
     ViewHeight = client.bottom - BottomReserve - client.top;
@@ -54,20 +44,22 @@ void ComputeLayout(HWND window) {
     const int boardWidth = PuzzleWidth * CellSize;
     const int boardHeight = PuzzleHeight * CellSize;
     BoardLeft = boardWidth <= ViewWidth ? (ViewWidth - boardWidth) / 2 : 0;
-    const bool scrolls = Magnification.Small == 0 && boardWidth > ViewWidth;
+    const bool scrolls = !ChosenSize().FitsView() && boardWidth > ViewWidth;
     BufferWidth = scrolls ? boardWidth + 1 : ViewWidth;
     BufferHeight = scrolls ? boardHeight + 1 : ViewRows(client, boardHeight);
     CreateOffscreenBuffer(window, BufferWidth, BufferHeight);
 }
 
+void ReserveBelowView(HWND window, int reserve) {
+    BottomReserve = reserve;
+    ViewHeight = BoardViewArea(window).bottom;
+}
+
 void KeepBottomEdge(HWND window) {
-    RECT client;
-    GetClientRect(window, &client);
-    BottomReserve = clueBarReserve;
-    const int newHeight = client.bottom - clueBarReserve;
-    const int scroll = ScrollY + (ViewHeight - newHeight);
+    const int oldHeight = ViewHeight;
+    ReserveBelowView(window, clueBarReserve);
+    const int scroll = ScrollY + oldHeight - ViewHeight;
     if (scroll >= 0) {
         ScrollY = scroll;
     }
-    ViewHeight = newHeight;
 }

@@ -5,10 +5,6 @@
 #include "app/stylus_input.h"
 #include "app/view.h"
 #include "board/board_fonts.h"
-#include "board/board_painter.h"
-#include "board/clue_bar.h"
-#include "board/word_highlight.h"
-#include "keyboard/keyboard_drawing.h"
 #include "keyboard/keyboard_visibility.h"
 #include "platform/drawing.h"
 #include "platform/windows.h"
@@ -28,14 +24,11 @@ void CloseWhenMinimized(HWND window, WPARAM how) {
 
 void ShowChosenClue(HWND window) {
     ClueChosen = 0;
-    PaintBoard(window);
-    PaintWordHighlight(window);
-    if (Magnification.Small == 0) {
+    PaintBoardAndSelection(window);
+    if (!ChosenSize().FitsView()) {
         ScrollIntoView();
     }
-    PaintClueBar(window);
-    DrawKeyboardIfVisible(window);
-    CopyViewToScreen(window);
+    ShowBoardAndKeyboard(window);
 }
 
 void HandleActivation(HWND window) {
@@ -95,8 +88,8 @@ LRESULT MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
                        ? 0
                        : DefWindowProcW(window, message, wParam, lParam);
         case WM_MOUSEMOVE: HandlePenMove(window, lParam); return 1;
-        case WM_LBUTTONDOWN: HandlePenDown(window, wParam, lParam); return 1;
-        case WM_LBUTTONUP: HandlePenUp(window, wParam, lParam); return 1;
+        case WM_LBUTTONDOWN: HandlePenDown(window, lParam); return 1;
+        case WM_LBUTTONUP: HandlePenUp(window, lParam); return 1;
         default: return DefWindowProcW(window, message, wParam, lParam);
     }
 }

@@ -24,9 +24,7 @@ void UpdateMenuChecks() {
     Check(commandNumbers, ShowNumbers);
     Check(commandAutoSkip, AutoSkip);
     FetchMenu(commandSizeMenu);
-    if (Magnification.Small + Magnification.Medium + Magnification.Large > 0) {
-        Check(commandSmall, Magnification.Small);
-        Check(commandMedium, Magnification.Medium);
-        Check(commandLarge, Magnification.Large);
+    for (const BoardSize& size : boardSizes) {
+        Check(size.command, Magnification.*size.flag);
     }
 }

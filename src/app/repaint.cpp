@@ -6,17 +6,28 @@
 #include "board/word_highlight.h"
 #include "keyboard/keyboard_drawing.h"
 
-void Repaint(HWND window) {
+void PaintBoardAndSelection(HWND window) {
     PaintBoard(window);
+    PaintWordHighlight(window);
+}
+
+void ShowBoard(HWND window) {
+    PaintClueBar(window);
+    CopyViewToScreen(window);
+}
+
+void ShowBoardAndKeyboard(HWND window) {
     PaintClueBar(window);
     DrawKeyboardIfVisible(window);
     CopyViewToScreen(window);
 }
 
-void RepaintFully(HWND window) {
+void Repaint(HWND window) {
     PaintBoard(window);
-    PaintWordHighlight(window);
-    PaintClueBar(window);
-    DrawKeyboardIfVisible(window);
-    CopyViewToScreen(window);
+    ShowBoardAndKeyboard(window);
+}
+
+void RepaintFully(HWND window) {
+    PaintBoardAndSelection(window);
+    ShowBoardAndKeyboard(window);
 }

@@ -22,9 +22,7 @@ POINT SignedPoint(LPARAM point) {
 }
 
 bool InBoardView(HWND window, POINT point) {
-    RECT view;
-    GetClientRect(window, &view);
-    view.bottom -= BottomReserve;
+    const RECT view = BoardViewArea(window);
     return PtInRect(&view, point) != FALSE;
 }
 
@@ -35,14 +33,14 @@ bool OnBoard(POINT point) {
 }
 
 // False when nothing was tapped.
-bool TapBoard(HWND window, UINT message, WPARAM buttons, LPARAM point) {
-    if (Magnification.Small == 1) {
+bool TapBoard(HWND window, LPARAM point) {
+    if (ChosenSize().FitsView()) {
         if (!OnBoard(SignedPoint(point))) {
             return false;
         }
-        HandleBoardTap(window, message, buttons, point);
+        HandleBoardTap(window, point);
     } else {
-        HandleBoardTap(window, message, buttons, point);
+        HandleBoardTap(window, point);
         ScrollIntoView();
     }
     return true;
@@ -57,11 +55,11 @@ bool IsTapAndHold(HWND window, LPARAM point) {
     return SHRecognizeGesture(&gesture) == GN_CONTEXTMENU;
 }
 
-void HandleTapAndHold(HWND window, WPARAM buttons, LPARAM point) {
+void HandleTapAndHold(HWND window, LPARAM point) {
     StylusNow = SignedPoint(point);
     TapHoldActive = 1;
     if (InBoardView(window, StylusNow)) {
-        TapBoard(window, WM_LBUTTONDOWN, buttons, point);
+        TapBoard(window, point);
     }
     TapHoldActive = 0;
     CopyViewToScreen(window);
@@ -76,8 +74,8 @@ bool OnKeyboard(POINT point) {
     return KeyboardVisible == 1 && PtInRect(&tapArea, point);
 }
 
-void TapKeyboard(HWND window, WPARAM buttons, LPARAM point) {
-    KeyboardTap(window, WM_LBUTTONUP, buttons, point);
+void TapKeyboard(HWND window, LPARAM point) {
+    KeyboardTap(window, point);
     if (KeyboardVisible != 1) {
         LayOutWithoutKeyboard(window);
     }
@@ -85,9 +83,9 @@ void TapKeyboard(HWND window, WPARAM buttons, LPARAM point) {
 
 }  // namespace
 
-void HandlePenDown(HWND window, WPARAM buttons, LPARAM point) {
+void HandlePenDown(HWND window, LPARAM point) {
     if (IsTapAndHold(window, point)) {
-        HandleTapAndHold(window, buttons, point);
+        HandleTapAndHold(window, point);
     }
     StylusLast = SignedPoint(point);
 }
@@ -99,13 +97,13 @@ void HandlePenMove(HWND window, LPARAM point) {
     }
 }
 
-void HandlePenUp(HWND window, WPARAM buttons, LPARAM point) {
+void HandlePenUp(HWND window, LPARAM point) {
     StylusNow = SignedPoint(point);
     if (!InBoardView(window, StylusNow)) {
         if (OnKeyboard(StylusNow)) {
-            TapKeyboard(window, buttons, point);
+            TapKeyboard(window, point);
         }
-    } else if (TapBoard(window, WM_LBUTTONUP, buttons, point)) {
+    } else if (TapBoard(window, point)) {
         CopyViewToScreen(window);
     }
 }

@@ -4,6 +4,6 @@
 #include "platform/types.h"
 
 // Points are packed client points, as the stylus messages carry them.
-void HandlePenDown(HWND window, WPARAM buttons, LPARAM point);
+void HandlePenDown(HWND window, LPARAM point);
 void HandlePenMove(HWND window, LPARAM point);
-void HandlePenUp(HWND window, WPARAM buttons, LPARAM point);
+void HandlePenUp(HWND window, LPARAM point);

@@ -1,6 +1,7 @@
 #include "app/view.h"
 
 #include "platform/drawing.h"
+#include "platform/windows.h"
 
 void CreateOffscreenBuffer(HWND window, int width, int height) {
     HDC windowContext = GetDC(window);
@@ -33,4 +34,28 @@ bool QuerySipInfo() {
     SipInfo = {};
     SipInfo.cbSize = sizeof SipInfo;
     return SHSipInfo(SPI_GETSIPINFO, 0, &SipInfo, 0) != FALSE;
+}
+
+bool InputPanelUp() {
+    return (SipInfo.fdwFlags & SIPF_ON) != 0;
+}
+
+bool LowerInputPanel() {
+    if (!QuerySipInfo() || !InputPanelUp()) {
+        return false;
+    }
+    SipInfo.fdwFlags &= ~SIPF_ON;
+    SHSipInfo(SPI_SETSIPINFO, 0, &SipInfo, 0);
+    return true;
+}
+
+int ReserveBelowBoard() {
+    return !InputPanelUp() && KeyboardVisible == 1 ? keyboardReserve : clueBarReserve;
+}
+
+RECT BoardViewArea(HWND window) {
+    RECT area;
+    GetClientRect(window, &area);
+    area.bottom -= BottomReserve;
+    return area;
 }

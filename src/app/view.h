@@ -9,8 +9,8 @@
 inline HWND MainWindow = nullptr;
 inline HWND MenuBar = nullptr;
 
-// Written by start-up and ComputeLayout; BottomReserve, ViewHeight and the scroll also by whatever
-// raises or lowers a keyboard, and the scroll by DragScroll and ScrollIntoView.
+// Written by start-up and ComputeLayout; BottomReserve and ViewHeight also by ReserveBelowView, the
+// scroll by KeepBottomEdge, DragScroll and ScrollIntoView.
 inline int CellSize = 1;
 inline int BoardLeft = 0;
 inline int BottomReserve = 0;
@@ -63,3 +63,16 @@ void CopyViewToScreen(HWND window);
 
 // Clears SipInfo, gives it its size and asks the shell; false when the shell refuses.
 bool QuerySipInfo();
+
+// Whether the soft input panel was up when SipInfo was filled in.
+bool InputPanelUp();
+
+// True when the soft input panel was up and is now lowered.
+bool LowerInputPanel();
+
+// The space below the board, by KeyboardVisible and the soft input panel of SipInfo: the on-screen
+// keyboard is not shown above a panel.
+int ReserveBelowBoard();
+
+// The part of the client area that shows the board.
+RECT BoardViewArea(HWND window);

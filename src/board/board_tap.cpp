@@ -32,7 +32,7 @@ bool HasBothWords(const TappedCell& cell) {
 
 }  // namespace
 
-void HandleBoardTap(HWND window, UINT, WPARAM, LPARAM point) {
+void HandleBoardTap(HWND window, LPARAM point) {
     const TappedCell tapped = FindTappedCell(point);
     PaintBoard(window);
     const bool selectedAlready =

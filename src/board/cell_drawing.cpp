@@ -23,7 +23,7 @@ void DrawCellLetter(HDC context, int row, int col, char letter) {
 }
 
 bool NumbersShown() {
-    return ShowNumbers == 1 && (Magnification.Medium == 1 || Magnification.Large == 1);
+    return ShowNumbers == 1 && ChosenSize().showsNumbers;
 }
 
 void DrawCellNumber(HDC context, int row, int col) {

@@ -21,8 +21,7 @@ int BarTop(const RECT& client) {
     if (!QuerySipInfo()) {
         return client.top;
     }
-    const bool panelUp = (SipInfo.fdwFlags & SIPF_ON) != 0;
-    return client.bottom - (!panelUp && KeyboardVisible == 1 ? keyboardReserve : clueBarReserve);
+    return client.bottom - ReserveBelowBoard();
 }
 
 // Null when the selected cell has no word in the current direction.

@@ -1,25 +1,18 @@
 #include "board/hints.h"
 
+#include "app/repaint.h"
 #include "app/view.h"
 #include "board/board_painter.h"
 #include "board/cell_drawing.h"
 #include "board/cell_geometry.h"
-#include "board/clue_bar.h"
 #include "board/drawing_tools.h"
 #include "board/word_highlight.h"
-#include "keyboard/keyboard_drawing.h"
 #include "model/puzzle.h"
 #include "model/selection.h"
 #include "platform/drawing.h"
 #include "play/word_extent.h"
 
 namespace {
-
-void FinishHint(HWND window) {
-    PaintClueBar(window);
-    DrawKeyboardIfVisible(window);
-    CopyViewToScreen(window);
-}
 
 void DrawSolutionLetter(HDC context, int row, int col) {
     const char letter = SolutionGrid[CellIndex(row, col)];
@@ -79,17 +72,17 @@ void PaintWordSolution(HWND window) {
 void ShowLetterSolution(HWND window) {
     PaintBoard(window);
     PaintLetterSolution(window);
-    FinishHint(window);
+    ShowBoardAndKeyboard(window);
 }
 
 void ShowWordSolution(HWND window) {
     PaintBoard(window);
     PaintWordSolution(window);
-    FinishHint(window);
+    ShowBoardAndKeyboard(window);
 }
 
 void ShowPuzzleSolution(HWND window) {
     ShowSolution = 1;
     PaintBoard(window);
-    FinishHint(window);
+    ShowBoardAndKeyboard(window);
 }

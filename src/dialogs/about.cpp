@@ -1,5 +1,6 @@
 #include "dialogs/about.h"
 
+#include "app/view.h"
 #include "dialogs/about_drawing.h"
 #include "dialogs/full_screen.h"
 #include "dialogs/help_programs.h"
@@ -24,7 +25,7 @@ constexpr Link links[] = {
 };
 
 void Open(HWND dialog) {
-    LowerPanel();
+    LowerInputPanel();
     SetTimer(dialog, animationTimer, framePeriod, nullptr);
     AboutAnimating = 1;
     FillScreen(dialog, wholeScreenWithoutMenuBar);

@@ -43,9 +43,11 @@ CHOOSECOLOR NewChooser(COLORREF color, CCHOOKPROC hook) {
             nullptr};
 }
 
-void Pick(HWND dialog, CHOOSECOLOR& chooser) {
+void Pick(HWND dialog, CHOOSECOLOR& chooser, COLORREF& color) {
     chooser.hwndOwner = dialog;
+    chooser.rgbResult = color;
     ChooseColor(&chooser);
+    color = chooser.rgbResult;
     UpdateWindow(dialog);
 }
 
@@ -53,14 +55,16 @@ void Pick(HWND dialog, CHOOSECOLOR& chooser) {
 
 void SetUpColorChoosers() {
     std::copy(std::begin(startColors), std::end(startColors), customColors);
-    BackgroundColorChooser = NewChooser(RGB(255, 255, 255), BackgroundColorHook);
-    SquareColorChooser = NewChooser(RGB(0, 0, 0), SquareColorHook);
+    BackgroundColor = RGB(255, 255, 255);
+    SquareColor = RGB(0, 0, 0);
+    BackgroundColorChooser = NewChooser(BackgroundColor, BackgroundColorHook);
+    SquareColorChooser = NewChooser(SquareColor, SquareColorHook);
 }
 
 void PickSquareColor(HWND dialog) {
-    Pick(dialog, SquareColorChooser);
+    Pick(dialog, SquareColorChooser, SquareColor);
 }
 
 void PickBackgroundColor(HWND dialog) {
-    Pick(dialog, BackgroundColorChooser);
+    Pick(dialog, BackgroundColorChooser, BackgroundColor);
 }

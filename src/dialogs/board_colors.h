@@ -1,9 +1,15 @@
 // Choosing the two colours of the board.
 #pragma once
 
-#include "platform/types.h"
+#include "platform/common_dialogs.h"
 
-// Sets both choosers up, with black squares on a white background. Called by start-up.
+// What the colour choosers are asked with. Written by SetUpColorChoosers and PickSquareColor or
+// PickBackgroundColor; the result is the board's colour.
+inline CHOOSECOLOR SquareColorChooser;
+inline CHOOSECOLOR BackgroundColorChooser;
+
+// Sets both choosers and their colours up, with black squares on a white background. Called by
+// start-up.
 void SetUpColorChoosers();
 
 // Both change the colour at once when the player picks one.

@@ -183,7 +183,7 @@ int DownloadPuzzle(HWND dialog, const WCHAR* link) {
 
 int ChooseSaveLocation(HWND dialog, WCHAR* name, WCHAR* path) {
     WCHAR file[MAX_PATH];
-    if (!CopyPath(std::u16string(puzzlesFolder).append(u"\\").append(name), file)) {
+    if (!PathInFolder(puzzlesFolder, name, file)) {
         return 0;
     }
     OPENFILENAMEW request;

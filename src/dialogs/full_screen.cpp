@@ -1,6 +1,5 @@
 #include "dialogs/full_screen.h"
 
-#include "app/view.h"
 #include "platform/controls.h"
 #include "platform/drawing.h"
 #include "platform/resources.h"
@@ -21,13 +20,6 @@ void FillScreen(HWND dialog, DWORD flags) {
 
 void HidePanelButton(HWND dialog) {
     SHFullScreen(dialog, SHFS_SHOWTASKBAR | SHFS_HIDESIPBUTTON);
-}
-
-void LowerPanel() {
-    if (QuerySipInfo() && (SipInfo.fdwFlags & SIPF_ON) != 0) {
-        SipInfo.fdwFlags &= ~SIPF_ON;
-        SHSipInfo(SPI_SETSIPINFO, 0, &SipInfo, 0);
-    }
 }
 
 void CloseDialogBox(HWND dialog) {

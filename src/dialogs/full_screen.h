@@ -16,9 +16,6 @@ void FillScreen(HWND dialog, DWORD flags);
 // Takes the soft input panel's button away, as every open dialog does.
 void HidePanelButton(HWND dialog);
 
-// Lowers the soft input panel if it is up.
-void LowerPanel();
-
 void CloseDialogBox(HWND dialog);
 
 // The control's font in bold; the caller's to delete after the dialog.

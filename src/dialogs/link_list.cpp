@@ -18,7 +18,7 @@ constexpr std::size_t mostBytes = 4096;
 constexpr std::size_t longestLinkBytes = 259;
 
 bool LinkListPath(WCHAR* buffer) {
-    return CopyPath(std::u16string(ProgramFolder).append(linkListFileName), buffer);
+    return PathInFolder(ProgramFolder, linkListFileName, buffer);
 }
 
 // A character of two units is not cut in half.

@@ -34,20 +34,18 @@ bool IsChecked(HWND dialog, int control) {
 }
 
 void ShowSettings(HWND dialog) {
-    SetCheck(dialog, controlSmall, Magnification.Small);
-    SetCheck(dialog, controlMedium, Magnification.Medium);
-    SetCheck(dialog, controlLarge, Magnification.Large);
+    for (const BoardSize& size : boardSizes) {
+        SetCheck(dialog, size.control, Magnification.*size.flag);
+    }
     SetCheck(dialog, controlAutoSkip, AutoSkip);
     SetCheck(dialog, controlShowNumbers, ShowNumbers);
 }
 
 void TakeSettings(HWND dialog) {
-    if (IsChecked(dialog, controlSmall)) {
-        Magnification = {1, 0, 0};
-    } else if (IsChecked(dialog, controlMedium)) {
-        Magnification = {0, 1, 0};
-    } else if (IsChecked(dialog, controlLarge)) {
-        Magnification = {0, 0, 1};
+    for (const BoardSize& size : boardSizes) {
+        if (IsChecked(dialog, size.control)) {
+            ChooseSize(size);
+        }
     }
     AutoSkip = IsChecked(dialog, controlAutoSkip) ? 1 : 0;
     ShowNumbers = IsChecked(dialog, controlShowNumbers) ? 1 : 0;

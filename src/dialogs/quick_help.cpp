@@ -1,5 +1,6 @@
 #include "dialogs/quick_help.h"
 
+#include "app/view.h"
 #include "dialogs/full_screen.h"
 #include "dialogs/help_programs.h"
 #include "platform/windows.h"
@@ -8,7 +9,7 @@
 namespace {
 
 void Open(HWND dialog) {
-    LowerPanel();
+    LowerInputPanel();
     FillScreen(dialog, wholeScreenWithoutMenuBar);
 }
 

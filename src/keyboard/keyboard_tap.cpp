@@ -29,7 +29,7 @@ void ActOnKey(const KeyboardKey& key) {
 
 }  // namespace
 
-void KeyboardTap(HWND window, UINT, WPARAM, LPARAM point) {
+void KeyboardTap(HWND window, LPARAM point) {
     constexpr DWORD flashMilliseconds = 50;
     const auto packed = static_cast<WPARAM>(point);
     const KeyboardKey key = FindKey(LOWORD(packed), HIWORD(packed));

@@ -5,4 +5,4 @@
 
 // Flashes the key under the packed client point and does what it says. The "OK" key only clears
 // KeyboardVisible; the caller then lays the view out anew.
-void KeyboardTap(HWND window, UINT message, WPARAM buttons, LPARAM point);
+void KeyboardTap(HWND window, LPARAM point);

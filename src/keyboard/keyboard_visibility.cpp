@@ -1,52 +1,33 @@
 #include "keyboard/keyboard_visibility.h"
 
 #include "app/layout.h"
+#include "app/repaint.h"
 #include "app/view.h"
-#include "board/board_painter.h"
-#include "board/clue_bar.h"
-#include "board/word_highlight.h"
-#include "keyboard/keyboard_drawing.h"
 #include "platform/windows.h"
 #include "play/scroll_into_view.h"
 #include "play/settings.h"
 
 namespace {
 
-void LowerInputPanel(HWND window) {
-    if (QuerySipInfo() && (SipInfo.fdwFlags & SIPF_ON) != 0) {
-        SipInfo.fdwFlags &= ~SIPF_ON;
-        SHSipInfo(SPI_SETSIPINFO, 0, &SipInfo, 0);
-        SHSipPreference(window, SIP_DOWN);
-    }
-}
-
 void LayOutSmallBoard(HWND window) {
     ComputeLayout(window);
-    PaintBoard(window);
-    PaintWordHighlight(window);
-}
-
-void ShrinkView(HWND window) {
-    RECT client;
-    GetClientRect(window, &client);
-    BottomReserve = keyboardReserve;
-    ViewHeight = client.bottom - keyboardReserve;
-    ScrollIntoView();
+    PaintBoardAndSelection(window);
 }
 
 }  // namespace
 
 void ShowKeyboard(HWND window) {
-    LowerInputPanel(window);
+    if (LowerInputPanel()) {
+        SHSipPreference(window, SIP_DOWN);
+    }
     KeyboardVisible = 1;
-    if (Magnification.Small == 1) {
+    if (ChosenSize().FitsView()) {
         LayOutSmallBoard(window);
     } else {
-        ShrinkView(window);
+        ReserveBelowView(window, keyboardReserve);
+        ScrollIntoView();
     }
-    PaintClueBar(window);
-    DrawKeyboard(window);
-    CopyViewToScreen(window);
+    ShowBoardAndKeyboard(window);
 }
 
 void HideKeyboard(HWND window) {
@@ -55,11 +36,10 @@ void HideKeyboard(HWND window) {
 }
 
 void LayOutWithoutKeyboard(HWND window) {
-    if (Magnification.Small == 1) {
+    if (ChosenSize().FitsView()) {
         LayOutSmallBoard(window);
     } else {
         KeepBottomEdge(window);
     }
-    PaintClueBar(window);
-    CopyViewToScreen(window);
+    ShowBoard(window);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/repaint.h"
 #include "app/view.h"
 #include "board/board_painter.h"
 #include "board/clue_bar.h"
@@ -61,11 +62,9 @@ void HandleKeyDown(int key) {
     } else if (key == VK_RIGHT || key == VK_DOWN) {
         JumpToWord(true);
     }
-    PaintBoard(MainWindow);
-    PaintWordHighlight(MainWindow);
+    PaintBoardAndSelection(MainWindow);
     ScrollIntoView();
-    PaintClueBar(MainWindow);
-    CopyViewToScreen(MainWindow);
+    ShowBoard(MainWindow);
 }
 
 void HandleEntryKey(int key) {

@@ -1,5 +1,6 @@
 #include "resources/dialogs.h"
 
+#include "model/board_sizes.h"
 #include "platform/dialogs.h"
 #include "resources/ids.h"
 
@@ -16,11 +17,15 @@ constexpr ControlResource clueListControls[] = {
     {IDOK, DefaultButton, u"OK", 5, 135, 50, 14},
 };
 
+constexpr ControlResource SizeButton(const BoardSize& size, int x, int width) {
+    return {size.control, RadioButton, size.name, x, 21, width, 10};
+}
+
 constexpr ControlResource preferencesControls[] = {
     {controlSizeGroup, GroupBox, u"Screen Magnification", 5, 6, 142, 34},
-    {controlSmall, RadioButton, u"Small", 11, 21, 33, 10},
-    {controlMedium, RadioButton, u"Medium", 60, 21, 41, 10},
-    {controlLarge, RadioButton, u"Large", 108, 21, 34, 10},
+    SizeButton(boardSizes[0], 11, 33),
+    SizeButton(boardSizes[1], 60, 41),
+    SizeButton(boardSizes[2], 108, 34),
     {controlToggleGroup, GroupBox, u"Toggle Options", 5, 47, 142, 32},
     {controlAutoSkip, CheckBox, u"Auto Skip", 13, 62, 47, 10},
     {controlShowNumbers, CheckBox, u"Show Numbers", 73, 62, 64, 10},

@@ -1,5 +1,10 @@
 #include "resources/menus.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "model/board_sizes.h"
 #include "resources/ids.h"
 
 namespace {
@@ -48,11 +53,14 @@ constexpr MenuItemResource hintItems[] = {
     {u"Current Word", commandHintWord},
     {u"Entire Puzzle", commandHintPuzzle},
 };
-constexpr MenuItemResource sizeItems[] = {
-    {u"Small", commandSmall},
-    {u"Medium", commandMedium},
-    {u"Large", commandLarge},
-};
+constexpr auto sizeItems = [] {
+    std::array<MenuItemResource, std::size(boardSizes)> items{};
+    std::transform(std::begin(boardSizes), std::end(boardSizes), items.begin(),
+                   [](const BoardSize& size) {
+                       return MenuItemResource{size.name, size.command};
+                   });
+    return items;
+}();
 constexpr MenuItemResource contextItems[] = {
     {u"Clear", 0, clearItems},
     {u"Fill", 0, fillItems},

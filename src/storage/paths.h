@@ -9,12 +9,17 @@
 // The folder of the program file, with its trailing backslash. Written by start-up.
 inline WCHAR ProgramFolder[MAX_PATH];
 
-// Where downloads go. Made by start-up.
-inline constexpr std::u16string_view puzzlesFolder = u"\\My Documents\\Quadrel Puzzles";
+// Where puzzles are looked for when there is none in play, and where downloads go, which start-up
+// makes. With their trailing backslashes.
+inline constexpr std::u16string_view documentsFolder = u"\\My Documents\\";
+inline constexpr std::u16string_view puzzlesFolder = u"\\My Documents\\Quadrel Puzzles\\";
 
 // Full path of the puzzle in play, empty while there is none; a failed read at start-up leaves its
 // short text here. Written by start-up, LoadProgress and OpenPuzzleFile.
 inline WCHAR CurrentPuzzlePath[MAX_PATH];
+
+// The path of a file in such a folder. False, with the buffer unchanged, when it is too long.
+bool PathInFolder(std::u16string_view folder, std::u16string_view name, WCHAR* buffer);
 
 // The progress file beside a puzzle: the path with its last four characters replaced by ".dat".
 // False when there are fewer than four, or when it does not fit the buffer of 260 wide characters.

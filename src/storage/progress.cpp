@@ -78,8 +78,8 @@ std::size_t PutBoard(ProgressRecord& record, std::size_t offset) {
 }
 
 void PutSettings(ProgressRecord& record, std::size_t cellsEnd) {
-    const int magnification = Magnification.Small ? 0 : Magnification.Medium ? 1 : 2;
-    PutNumber(record, cellsEnd + magnificationSlot, magnification);
+    const auto magnification = &ChosenSize() - boardSizes;
+    PutNumber(record, cellsEnd + magnificationSlot, static_cast<int>(magnification));
     PutNumber(record, cellsEnd + autoSkipSlot, AutoSkip ? 1 : 0);
     PutNumber(record, cellsEnd + showNumbersSlot, ShowNumbers ? 1 : 0);
     PutColor(record, cellsEnd + backgroundColorSlot, BackgroundColor);
@@ -158,8 +158,8 @@ void RestoreBoard(const SavedBoard& board) {
 }
 
 void RestoreMagnification(std::optional<int> number) {
-    if (number && *number >= 0 && *number <= 2) {
-        Magnification = {*number == 0, *number == 1, *number == 2};
+    if (number && *number >= 0 && *number < std::ssize(boardSizes)) {
+        ChooseSize(boardSizes[*number]);
     }
 }
 

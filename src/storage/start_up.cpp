@@ -26,7 +26,6 @@
 
 namespace {
 
-constexpr std::u16string_view documentsFolder = u"\\My Documents\\";
 constexpr std::u16string_view stateFileName = u"quadrel.dat";
 
 void SetDefaultView(HWND window) {
@@ -52,7 +51,7 @@ void SetDefaultDialogs() {
 }
 
 void SetDefaultSettings() {
-    Magnification = {1, 0, 0};
+    ChooseSize(boardSizes[0]);
     AutoSkip = 0;
     ShowNumbers = 0;
     SetUpColorChoosers();
@@ -80,7 +79,7 @@ void FindProgramFolder() {
 }
 
 bool StateFilePath(WCHAR* buffer) {
-    return CopyPath(std::u16string(ProgramFolder).append(stateFileName), buffer);
+    return PathInFolder(ProgramFolder, stateFileName, buffer);
 }
 
 bool RestoreState() {
@@ -91,17 +90,17 @@ bool RestoreState() {
 // The first puzzle in the documents; false when there is none to be read.
 bool ReadFallbackPuzzle() {
     WIN32_FIND_DATAW match;
-    HFIND search = FindFirstFileW(std::u16string(documentsFolder).append(u"*.puz").c_str(), &match);
+    WCHAR path[MAX_PATH];
+    PathInFolder(documentsFolder, u"*.puz", path);
+    HFIND search = FindFirstFileW(path, &match);
     if (search == nullptr) {
         MessageBoxW(nullptr, u"Please choose a puzzle file from the Available Puzzles option.",
                     u"Choose File", MB_OK);
         return false;
     }
     FindClose(search);
-    WCHAR path[MAX_PATH];
     const bool isFile = (match.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-    if (!isFile || !CopyPath(std::u16string(documentsFolder).append(match.cFileName), path) ||
-        !ReadPuzzleFile(path)) {
+    if (!isFile || !PathInFolder(documentsFolder, match.cFileName, path) || !ReadPuzzleFile(path)) {
         return false;
     }
     // The restored letters, if any, are another puzzle's.

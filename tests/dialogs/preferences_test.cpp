@@ -1,5 +1,6 @@
 #include <QtWidgets/QColorDialog>
 
+#include "dialogs/board_colors.h"
 #include "resources/ids.h"
 #include "support/dialogs.h"
 #include "support/menus.h"
