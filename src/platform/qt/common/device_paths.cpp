@@ -2,6 +2,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
+#include <array>
 
 #include "platform/types.h"
 
@@ -17,11 +18,9 @@ QString HomeOverride() {
     return home.isEmpty() ? QString() : QDir(home).absolutePath();
 }
 
-const FolderMapping* Mappings() {
-    static FolderMapping mappings[2];
-    mappings[0] = {"\\My Documents\\", DocumentsFolderOnHost() + '/'};
-    mappings[1] = {QString::fromUtf16(programFolderOnDevice.data()), ProgramFolderOnHost() + '/'};
-    return mappings;
+std::array<FolderMapping, 2> Mappings() {
+    return {{{"\\My Documents\\", DocumentsFolderOnHost() + '/'},
+             {QString::fromUtf16(programFolderOnDevice.data()), ProgramFolderOnHost() + '/'}}};
 }
 
 }  // namespace
@@ -48,9 +47,9 @@ std::optional<QString> ToHostPath(std::u16string_view devicePath) {
         return std::nullopt;
     }
     QString path = QString::fromUtf16(devicePath.data(), static_cast<qsizetype>(devicePath.size()));
-    for (const FolderMapping* mapping = Mappings(); mapping != Mappings() + 2; ++mapping) {
-        if (path.startsWith(mapping->device, Qt::CaseInsensitive)) {
-            path = mapping->host + path.mid(mapping->device.size());
+    for (const FolderMapping& mapping : Mappings()) {
+        if (path.startsWith(mapping.device, Qt::CaseInsensitive)) {
+            path = mapping.host + path.mid(mapping.device.size());
             break;
         }
     }
@@ -62,9 +61,9 @@ std::optional<std::u16string> ToDevicePath(const QString& hostPath) {
     if (path.contains('\\')) {
         return std::nullopt;
     }
-    for (const FolderMapping* mapping = Mappings(); mapping != Mappings() + 2; ++mapping) {
-        if (path.startsWith(mapping->host)) {
-            path = mapping->device + path.mid(mapping->host.size());
+    for (const FolderMapping& mapping : Mappings()) {
+        if (path.startsWith(mapping.host)) {
+            path = mapping.device + path.mid(mapping.host.size());
             break;
         }
     }

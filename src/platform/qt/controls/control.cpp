@@ -52,12 +52,7 @@ void Control::Place() {
     if (font != nullptr) {
         widget->setFont(TextFont(font->font.em * ScreenMagnification(), font->font.bold));
     }
-    RECT onScreen = frame;
-    onScreen.left += dialog->frame.left;
-    onScreen.right += dialog->frame.left;
-    onScreen.top += dialog->frame.top;
-    onScreen.bottom += dialog->frame.top;
-    const QRect exact = ExactPlace(onScreen).toRect();
+    const QRect exact = ExactPlace(OnScreen(dialog, frame)).toRect();
     widget->setGeometry(exact.translated(-widget->parentWidget()->pos()));
 }
 

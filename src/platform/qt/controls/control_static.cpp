@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/dialogs.h"
+#include "platform/qt/common/find_by_id.h"
 #include "platform/qt/controls/control.h"
 #include "platform/qt/look/art.h"
 #include "platform/qt/surface/drawing_objects.h"
@@ -99,11 +100,9 @@ std::unique_ptr<Control> MakeStatic(HWND dialog, const ControlResource& resource
 
 std::unique_ptr<Control> MakePicture(HWND dialog, const ControlResource& resource, QWidget* parent,
                                      HINSTANCE instance) {
-    const auto found =
-        std::find_if(instance->art.begin(), instance->art.end(),
-                     [&](const ArtResource& art) { return art.id == resource.bitmap; });
-    if (found == instance->art.end()) {
+    const ArtResource* art = FindById(instance->art, resource.bitmap);
+    if (art == nullptr) {
         return MakeStatic(dialog, resource, parent);
     }
-    return std::make_unique<PictureBox>(dialog, resource, parent, &*found);
+    return std::make_unique<PictureBox>(dialog, resource, parent, art);
 }

@@ -1,7 +1,7 @@
 // Dialog boxes: made from their templates, run by a message loop of their own.
 //
-// Supported: modal dialogs that fill the handheld's screen. Left out: modeless and nested child
-// dialogs, system fonts beyond the template's, mnemonics.
+// Supported: modal dialogs that fill the handheld's screen. Left out: modeless dialogs, dialogs
+// inside dialogs, the template's face (its size counts), mnemonics.
 #include <algorithm>
 #include <memory>
 #include <vector>

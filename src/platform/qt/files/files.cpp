@@ -25,11 +25,6 @@ struct FindObject {};
 
 namespace {
 
-BOOL Fail(DWORD error) {
-    SetLastError(error);
-    return FALSE;
-}
-
 // The toolkit tells reasons as text only; what it lets through of the system's number is asked
 // after what can be seen from outside.
 DWORD ReasonNotOpened(const QString& path, int systemError) {

@@ -16,6 +16,11 @@ void SetLastError(DWORD error) {
     lastError = error;
 }
 
+BOOL Fail(DWORD error) {
+    SetLastError(error);
+    return FALSE;
+}
+
 DWORD ErrorOfSystem(int systemError, DWORD otherwise) {
     switch (systemError) {
         case ENOENT: return ERROR_FILE_NOT_FOUND;

@@ -1,18 +1,16 @@
 // Strings, dialogs and icons by number.
 #include "platform/resources.h"
 
-#include <algorithm>
 #include <deque>
 #include <string_view>
 
+#include "platform/qt/common/find_by_id.h"
 #include "platform/qt/look/art.h"
 #include "platform/qt/look/icon_object.h"
 
 int LoadStringW(HINSTANCE instance, UINT id, WCHAR* buffer, int bufferSize) {
-    const auto found = std::find_if(
-        instance->strings.begin(), instance->strings.end(),
-        [id](const StringResource& string) { return string.id == static_cast<int>(id); });
-    if (found == instance->strings.end() || bufferSize < 1) {
+    const StringResource* found = FindById(instance->strings, static_cast<int>(id));
+    if (found == nullptr || bufferSize < 1) {
         return 0;
     }
     std::u16string_view text(found->text);
@@ -22,9 +20,7 @@ int LoadStringW(HINSTANCE instance, UINT id, WCHAR* buffer, int bufferSize) {
 }
 
 HRSRC FindResourceW(HINSTANCE instance, int id, int type) {
-    const auto found = std::find_if(instance->dialogs.begin(), instance->dialogs.end(),
-                                    [id](const DialogResource& dialog) { return dialog.id == id; });
-    return type != RT_DIALOG || found == instance->dialogs.end() ? nullptr : &*found;
+    return type == RT_DIALOG ? FindById(instance->dialogs, id) : nullptr;
 }
 
 HGLOBAL LoadResource(HINSTANCE, HRSRC resource) {
@@ -34,12 +30,11 @@ HGLOBAL LoadResource(HINSTANCE, HRSRC resource) {
 HICON LoadIconW(HINSTANCE instance, int id) {
     // Loaded icons are shared and live as long as the program.
     static std::deque<IconObject> icons;
-    const auto found = std::find_if(instance->icons.begin(), instance->icons.end(),
-                                    [id](const ArtResource& art) { return art.id == id; });
-    if (found == instance->icons.end()) {
+    const ArtResource* found = FindById(instance->icons, id);
+    if (found == nullptr) {
         return nullptr;
     }
-    icons.push_back({&*found});
+    icons.push_back({found});
     return &icons.back();
 }
 

@@ -20,12 +20,7 @@ ClientView::ClientView(QWidget* host, HWND shown) : QWidget(host), window(shown)
 }
 
 void ClientView::ShowArea(const RECT& area) {
-    RECT place = area;
-    place.left += window->frame.left;
-    place.right += window->frame.left;
-    place.top += window->frame.top;
-    place.bottom += window->frame.top;
-    update(ExactPlace(place).toAlignedRect().translated(-pos()));
+    update(ExactPlace(OnScreen(window, area)).toAlignedRect().translated(-pos()));
 }
 
 void ClientView::paintEvent(QPaintEvent* event) {

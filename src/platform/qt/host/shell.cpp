@@ -84,11 +84,9 @@ DWORD SHRecognizeGesture(SHRGINFO* gesture) {
     if (CurrentMessage().heldAtOnce) {
         return GN_CONTEXTMENU;
     }
-    const RECT frame = gesture->hwndClient->frame;
-    const LONG x = frame.left + gesture->ptDown.x;
-    const LONG y = frame.top + gesture->ptDown.y;
-    const QPointF point = ExactPlace({x, y, x + 1, y + 1}).center();
-    return AwaitHold(&Host(), point) ? GN_CONTEXTMENU : 0;
+    const POINT at = gesture->ptDown;
+    const RECT pixel = OnScreen(gesture->hwndClient, {at.x, at.y, at.x + 1, at.y + 1});
+    return AwaitHold(&Host(), ExactPlace(pixel).center()) ? GN_CONTEXTMENU : 0;
 }
 
 BOOL TrackPopupMenuEx(HMENU menu, UINT, int x, int y, HWND window, void*) {

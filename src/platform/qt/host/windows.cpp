@@ -1,7 +1,8 @@
 // Window classes and windows.
 //
-// Supported: top-level windows at a place on the handheld's screen. Left out: child windows,
-// regions, z-order beyond "the newest is on top", background erasing (a new surface is white).
+// Supported: top-level windows at a place on the handheld's screen. Left out: child windows (a
+// dialog makes its controls itself), regions, z-order beyond "the newest is on top", background
+// erasing (a new surface is white).
 #include "platform/windows.h"
 
 #include <map>

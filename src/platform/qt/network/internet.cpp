@@ -25,11 +25,6 @@ namespace {
 
 constexpr std::size_t longestAnswer = 1024 * 1024;
 
-BOOL Fail(DWORD error) {
-    SetLastError(error);
-    return FALSE;
-}
-
 }  // namespace
 
 HINTERNET InternetOpenW(const WCHAR* agent, DWORD, const WCHAR*, const WCHAR*, DWORD) {

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "platform/menus.h"
+#include "platform/qt/common/find_by_id.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/look/art.h"
 #include "platform/qt/look/colors.h"
@@ -21,13 +22,6 @@ namespace {
 constexpr int buttonWidth = 24;
 constexpr ArtResource panelArt{0, "menu_sip.svg", barPictureSide, barPictureSide};
 
-const ArtResource* FindArt(HINSTANCE instance, int image) {
-    const auto& art = instance->menuBarArt;
-    const auto found = std::find_if(art.begin(), art.end(),
-                                    [image](const ArtResource& each) { return each.id == image; });
-    return found == art.end() ? nullptr : &*found;
-}
-
 BarButton* Neighbour(const std::vector<BarButton*>& row, const QWidget* of, int step) {
     const auto place = std::find(row.begin(), row.end(), of);
     const auto count = static_cast<int>(row.size());
@@ -41,9 +35,8 @@ MenuBarWidget::MenuBarWidget(QWidget* host) : QWidget(host) {
 }
 
 bool MenuBarWidget::Open(HWND window, HINSTANCE instance, int id) {
-    const auto found = std::find_if(instance->menuBars.begin(), instance->menuBars.end(),
-                                    [id](const MenuBarResource& bar) { return bar.id == id; });
-    if (found == instance->menuBars.end()) {
+    const MenuBarResource* found = FindById(instance->menuBars, id);
+    if (found == nullptr) {
         return false;
     }
     owner = window;
@@ -60,7 +53,7 @@ bool MenuBarWidget::Open(HWND window, HINSTANCE instance, int id) {
 void MenuBarWidget::RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const {
     std::vector<const char*> files{panelArt.file};
     for (const MenuBarButton& button : bar.buttons) {
-        if (const ArtResource* art = FindArt(instance, button.image)) {
+        if (const ArtResource* art = FindById(instance->menuBarArt, button.image)) {
             files.push_back(art->file);
         }
     }
@@ -70,7 +63,7 @@ void MenuBarWidget::RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE in
 void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance) {
     HMENU menu = resource.popup == noPopup ? nullptr
                                            : GetSubMenu(LoadMenuW(instance, barId), resource.popup);
-    auto* button = new BarButton(this, FindArt(instance, resource.image), menu);
+    auto* button = new BarButton(this, FindById(instance->menuBarArt, resource.image), menu);
     const QString caption = QString::fromUtf16(resource.caption);
     button->setToolTip(caption);
     const int command = resource.command;

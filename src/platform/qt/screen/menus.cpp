@@ -1,9 +1,9 @@
 // Menus and their check marks.
 #include "platform/menus.h"
 
-#include <algorithm>
 #include <map>
 
+#include "platform/qt/common/find_by_id.h"
 #include "platform/qt/screen/menu_object.h"
 
 namespace {
@@ -38,9 +38,7 @@ HMENU LoadMenuW(HINSTANCE instance, int id) {
     static std::map<int, std::unique_ptr<MenuObject>> menus;
     auto& menu = menus[id];
     if (menu == nullptr) {
-        const auto found = std::find_if(instance->menus.begin(), instance->menus.end(),
-                                        [id](const MenuResource& each) { return each.id == id; });
-        if (found != instance->menus.end()) {
+        if (const MenuResource* found = FindById(instance->menus, id)) {
             menu = std::make_unique<MenuObject>(found->popups);
         }
     }

@@ -2,8 +2,7 @@
 // other name), bitmaps. Left out: pen styles, patterns, regions, palettes.
 #include "platform/qt/surface/drawing_objects.h"
 
-#include <algorithm>
-
+#include "platform/qt/common/find_by_id.h"
 #include "platform/resources.h"
 
 namespace {
@@ -46,9 +45,8 @@ HBITMAP CreateCompatibleBitmap(HDC, int width, int height) {
 }
 
 HBITMAP LoadBitmapW(HINSTANCE instance, int id) {
-    const auto found = std::find_if(instance->art.begin(), instance->art.end(),
-                                    [id](const ArtResource& art) { return art.id == id; });
-    if (found == instance->art.end()) {
+    const ArtResource* found = FindById(instance->art, id);
+    if (found == nullptr) {
         return nullptr;
     }
     HBITMAP bitmap = CreateCompatibleBitmap(nullptr, found->width, found->height);

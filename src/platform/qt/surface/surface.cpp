@@ -243,7 +243,3 @@ void Surface::SetRatioOfAll(double ratio) {
         surface->ForgetPixels();
     }
 }
-
-double Surface::RatioOfAll() {
-    return ratioOfAll;
-}

@@ -46,7 +46,6 @@ public:
 
     // Renders every surface anew at the ratio, sharp.
     static void SetRatioOfAll(double ratio);
-    static double RatioOfAll();
 
 private:
     void ForgetPixels();

@@ -1,8 +1,10 @@
 // The program's message loop: waiting for the next message, accelerators.
+//
+// Left out: message filters, thread messages, WM_CHAR (letters arrive as virtual keys).
 #include <QtCore/QCoreApplication>
 #include <QtCore/QThread>
-#include <algorithm>
 
+#include "platform/qt/common/find_by_id.h"
 #include "platform/qt/common/message_queue.h"
 #include "platform/qt/window/notices.h"
 #include "platform/qt/window/window.h"
@@ -24,10 +26,7 @@ BOOL TranslateMessage(const MSG*) {
 }
 
 HACCEL LoadAcceleratorsW(HINSTANCE instance, int table) {
-    const auto found =
-        std::find_if(instance->acceleratorTables.begin(), instance->acceleratorTables.end(),
-                     [table](const AcceleratorTable& candidate) { return candidate.id == table; });
-    return found == instance->acceleratorTables.end() ? nullptr : &*found;
+    return FindById(instance->acceleratorTables, table);
 }
 
 BOOL TranslateAcceleratorW(HWND window, HACCEL table, const MSG* message) {

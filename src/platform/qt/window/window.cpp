@@ -43,6 +43,12 @@ void RemoveChildWindow(HWND child) {
     std::erase(children, child);
 }
 
+RECT OnScreen(HWND window, const RECT& area) {
+    const RECT& frame = window->frame;
+    return {frame.left + area.left, frame.top + area.top, frame.left + area.right,
+            frame.top + area.bottom};
+}
+
 bool IsLiveWindow(HWND window) {
     return Holds(stack, window) || Holds(children, window);
 }

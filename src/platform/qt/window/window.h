@@ -39,6 +39,9 @@ HWND BottomWindow();
 void AddChildWindow(HWND child);
 void RemoveChildWindow(HWND child);
 
+// An area of the window, on the handheld's screen.
+RECT OnScreen(HWND window, const RECT& area);
+
 // A handle may outlive its window: every operation asks first.
 bool IsLiveWindow(HWND window);
 
