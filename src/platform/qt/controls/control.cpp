@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "platform/dialogs.h"
-#include "platform/qt/common/dialog_units.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/controls/dialog_look.h"
+#include "platform/qt/controls/dialog_units.h"
 #include "platform/qt/look/fonts.h"
 #include "platform/qt/surface/drawing_objects.h"
 

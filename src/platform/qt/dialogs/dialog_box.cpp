@@ -8,10 +8,10 @@
 
 #include "platform/dialogs.h"
 #include "platform/drawing.h"
-#include "platform/qt/common/dialog_units.h"
 #include "platform/qt/common/message_queue.h"
 #include "platform/qt/common/screen_layout.h"
 #include "platform/qt/controls/control.h"
+#include "platform/qt/controls/dialog_units.h"
 #include "platform/qt/dialogs/color_chooser.h"
 #include "platform/qt/dialogs/dialog_view.h"
 #include "platform/qt/host/host_window.h"

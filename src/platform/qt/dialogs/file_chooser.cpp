@@ -16,9 +16,9 @@
 
 #include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
-#include "platform/qt/common/device_paths.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/dialogs/modal.h"
+#include "platform/qt/files/device_paths.h"
 #include "platform/qt/host/host_window.h"
 
 namespace {

@@ -12,7 +12,7 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/qt/common/device_paths.h"
+#include "platform/qt/files/device_paths.h"
 #include "platform/qt/files/last_error.h"
 
 struct FileObject {

@@ -4,7 +4,7 @@
 #include <QtCore/QFile>
 #include <algorithm>
 
-#include "platform/qt/common/device_paths.h"
+#include "platform/qt/files/device_paths.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include <cstring>
 #include <thread>
 
-#include "platform/qt/common/device_paths.h"
+#include "platform/qt/files/device_paths.h"
 #include "platform/qt/host/host_window.h"
 #include "platform/qt/window/end_request.h"
 #include "platform/qt/window/notices.h"

@@ -1,4 +1,4 @@
-#include "platform/qt/common/device_paths.h"
+#include "platform/qt/files/device_paths.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
