@@ -24,7 +24,10 @@ void UpdateMenuChecks() {
     Check(commandNumbers, ShowNumbers);
     Check(commandAutoSkip, AutoSkip);
     FetchMenu(commandSizeMenu);
+    const bool chosen = Magnification.*ChosenSize().flag == 1;
     for (const BoardSize& size : boardSizes) {
-        Check(size.command, Magnification.*size.flag);
+        if (chosen) {
+            Check(size.command, Magnification.*size.flag);
+        }
     }
 }
