@@ -43,6 +43,15 @@ inline RawPuzzle PuzzleOfBoard(const BoardRows& rows, std::vector<std::string> t
             std::move(texts)};
 }
 
+// Nothing entered yet.
+inline BoardRows EmptyBoard(BoardRows rows) {
+    for (std::string& row : rows) {
+        std::replace_if(
+            row.begin(), row.end(), [](char cell) { return cell != '.'; }, '-');
+    }
+    return rows;
+}
+
 // Rows of different letters, so that a cell taken from the wrong place shows; neither symmetric nor
 // square, so that swapped rows and columns do.
 inline BoardRows RandomBoard(std::mt19937& random, int width, int height, unsigned blackPercent) {
