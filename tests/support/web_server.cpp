@@ -20,8 +20,8 @@ std::string PathOf(const std::string& head) {
     return head.substr(start, head.find(' ', start) - start);
 }
 
-std::unique_ptr<QTcpServer> SecureServer(const std::filesystem::path& certificate) {
-    const QByteArray bytes = ToBytes(ReadBytes(certificate));
+std::unique_ptr<QTcpServer> SecureServer(const std::string& certificate) {
+    const QByteArray bytes = ToBytes(ReadBytes(CERTIFICATES + certificate + ".pem"));
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
     configuration.setLocalCertificate(QSslCertificate(bytes));
     configuration.setPrivateKey(QSslKey(bytes, QSsl::Ec));
@@ -57,14 +57,6 @@ std::string Redirection(const std::string& target) {
     return Page("It has moved.", "302 Found", "Location: " + target + "\r\n");
 }
 
-std::vector<std::string> Cut(const std::string& text, std::size_t pieceSize) {
-    std::vector<std::string> pieces;
-    for (std::size_t start = 0; start < text.size(); start += pieceSize) {
-        pieces.push_back(text.substr(start, pieceSize));
-    }
-    return pieces;
-}
-
 std::string Gzip(const std::string& content) {
     QProcess gzip;
     gzip.start("gzip", {"-c"});
@@ -76,60 +68,43 @@ std::string Gzip(const std::string& content) {
     return gzip.readAllStandardOutput().toStdString();
 }
 
-WebServer::WebServer(const std::filesystem::path& certificate) {
-    context.moveToThread(&thread);
-    thread.start();
-    InThread([&] { Open(certificate); });
-}
-
-WebServer::~WebServer() {
-    InThread([this] { server.reset(); });
-    thread.quit();
-    thread.wait();
-}
-
-void WebServer::Open(const std::filesystem::path& certificate) {
-    server = certificate.empty() ? std::make_unique<QTcpServer>() : SecureServer(certificate);
-    QObject::connect(server.get(), &QTcpServer::pendingConnectionAvailable, &context, [this] {
+WebServer::WebServer(const std::string& certificate)
+    : root(certificate.empty() ? "http" : "https"),
+      server(certificate.empty() ? std::make_unique<QTcpServer>() : SecureServer(certificate)) {
+    QObject::connect(server.get(), &QTcpServer::pendingConnectionAvailable, [this] {
         while (QTcpSocket* socket = server->nextPendingConnection()) {
             Receive(socket);
         }
     });
+    setenv("SSL_CERT_FILE", CERTIFICATES "authority.pem", 1);
     server->listen(QHostAddress::LocalHost);
-    root = (certificate.empty() ? "http://127.0.0.1:" : "https://127.0.0.1:") +
-           std::to_string(server->serverPort());
+    root += "://127.0.0.1:" + std::to_string(server->serverPort());
 }
 
 void WebServer::Receive(QTcpSocket* socket) {
     QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-    const auto head = std::make_shared<std::string>();
-    const auto read = [this, socket, head] {
-        *head += socket->readAll().toStdString();
+    const auto read = [this, socket, head = std::string()]() mutable {
+        head += socket->readAll().toStdString();
         // Like any server, one without TLS has no patience with those who speak it.
-        if (head->ends_with("\r\n\r\n") || head->starts_with('\x16')) {
-            SendFrom(0, socket, AnswerTo(std::exchange(*head, {})));
+        if (head.ends_with("\r\n\r\n") || head.starts_with('\x16')) {
+            SendFrom(0, socket, AnswerTo(std::exchange(head, {})));
         }
     };
     QObject::connect(socket, &QTcpSocket::readyRead, socket, read);
-    read();
+    emit socket->readyRead();
 }
 
 WebAnswer WebServer::AnswerTo(const std::string& head) {
-    const std::lock_guard lock(mutex);
     requests.push_back(head);
     const auto found = answers.find(PathOf(head));
     return found != answers.end() ? found->second
                                   : WebAnswer{{Page("Nothing is here.", "404 Not Found")}};
 }
 
-void WebServer::Put(const std::string& path, const WebAnswer& answer) {
-    const std::lock_guard lock(mutex);
-    answers[path] = answer;
-}
-
-std::vector<std::string> WebServer::Requests() {
-    const std::lock_guard lock(mutex);
-    return requests;
+void WebServer::HangUp() {
+    for (auto* socket : server->findChildren<QTcpSocket*>()) {
+        socket->abort();
+    }
 }
 
 std::string RefusedLink() {

@@ -1,12 +1,9 @@
-// A real web server on the loopback address, in a thread of its own.
+// A real web server on the loopback address. It works while the program waits for it.
 #pragma once
 
-#include <QtCore/QThread>
 #include <QtNetwork/QTcpServer>
-#include <filesystem>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <vector>
 
@@ -25,19 +22,18 @@ std::string Page(const std::string& content, const std::string& status = "200 OK
 std::string PageWithoutLength(const std::string& content);
 std::string Redirection(const std::string& target);
 
-std::vector<std::string> Cut(const std::string& text, std::size_t pieceSize);
 std::string Gzip(const std::string& content);
 
 class WebServer {
 public:
-    // With the file of a certificate and its key, pages are safe.
-    explicit WebServer(const std::filesystem::path& certificate = {});
-    ~WebServer();
-    WebServer(const WebServer&) = delete;
-    WebServer& operator=(const WebServer&) = delete;
+    // With the name of a certificate in support/certificates, pages are safe. The program is made
+    // to trust the authority there instead of the system's many, which it reads for each request.
+    explicit WebServer(const std::string& certificate = "");
 
     // Every other path is answered with 404.
-    void Put(const std::string& path, const WebAnswer& answer);
+    void Put(const std::string& path, const WebAnswer& answer) {
+        answers[path] = answer;
+    }
     void Put(const std::string& path, const std::string& answer) {
         Put(path, WebAnswer{{answer}});
     }
@@ -45,25 +41,20 @@ public:
         return root + path;
     }
     // The heads of the requests so far.
-    std::vector<std::string> Requests();
+    const std::vector<std::string>& Requests() const {
+        return requests;
+    }
+    // Ends all connections.
+    void HangUp();
 
 private:
-    template <typename Work>
-    void InThread(Work work) {
-        QMetaObject::invokeMethod(&context, work, Qt::BlockingQueuedConnection);
-    }
-    void Open(const std::filesystem::path& certificate);
     void Receive(QTcpSocket* socket);
     WebAnswer AnswerTo(const std::string& head);
 
-    QThread thread;
-    QObject context;  // lives in the thread
-    std::unique_ptr<QTcpServer> server;
-    std::string root;
-    // What the test's thread and the server's share.
-    std::mutex mutex;
     std::map<std::string, WebAnswer> answers;
     std::vector<std::string> requests;
+    std::string root;
+    std::unique_ptr<QTcpServer> server;
 };
 
 // The address of a port that nobody listens on.

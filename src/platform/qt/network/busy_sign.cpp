@@ -56,7 +56,7 @@ void BusySign::SetAmount(std::size_t bytes) {
 
 // Takes its place anew with each frame, since the window may have been resized.
 void BusySign::ShowFrame() {
-    if (waitedBefore + wait.elapsed() < patienceMilliseconds) {
+    if (waitedBefore + wait.elapsed() < patienceWithoutSign) {
         return;
     }
     ++frame;

@@ -5,13 +5,13 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
+// Waits shorter than this, all of one download together, do not show it. Tests are less patient.
+inline int patienceWithoutSign = 300;  // milliseconds
+
 class BusySign : public QWidget {
     Q_OBJECT
 
 public:
-    // Waits shorter than this, all of one download together, do not show it.
-    static constexpr int patienceMilliseconds = 300;
-
     explicit BusySign(QWidget* host);
 
     // Around each wait.
