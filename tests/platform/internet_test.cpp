@@ -100,7 +100,6 @@ TEST_F(Internet, AnswersArriveWholeInFullBlocksHoweverTheyAreSent) {
           5}},
         {"/zipped", {{zipped.substr(0, 20000), zipped.substr(20000)}, 5}},
         {"/missing", {{Page(content, "404 Not Found")}}},
-        {"/refused", {{Page(content, "401 Unauthorized", "WWW-Authenticate: Basic\r\n")}}},
         {"/no-target", {{Page(content, "302 Found")}}}};
     for (const auto& [path, answer] : answers) {
         server.Put(path, answer);
@@ -140,10 +139,8 @@ TEST_F(Internet, AddressesThatLeadNowhereSayWhy) {
     setenv("RES_OPTIONS", "timeout:1 attempts:1", 1);
     const std::pair<std::string, DWORD> addresses[] = {
         {"", ERROR_INTERNET_INVALID_URL},
-        {"http://", ERROR_INTERNET_INVALID_URL},
         {"http://127.0.0.1:99999/a.puz", ERROR_INTERNET_INVALID_URL},
         {"file:///etc/passwd", ERROR_INTERNET_UNRECOGNIZED_SCHEME},
-        {"www.example.com/a.puz", ERROR_INTERNET_UNRECOGNIZED_SCHEME},
         {"http://nowhere.invalid/a.puz", ERROR_INTERNET_NAME_NOT_RESOLVED},
         {RefusedLink(), ERROR_INTERNET_CANNOT_CONNECT}};
     for (const auto& [address, error] : addresses) {

@@ -8,8 +8,6 @@
 
 namespace {
 
-// Less than anybody needs to see what opened and to tap it.
-constexpr qint64 blinkMilliseconds = 200;
 // A child's double tap is slower than what the toolkit takes for a double click.
 constexpr quint64 pairMilliseconds = 500;
 // How far apart a finger sets the two taps of a pair. Logical pixels.

@@ -2,6 +2,9 @@
 // whose first one opened or closed what lies there, and a tap at the moment when something opens.
 #pragma once
 
+// Less than anybody needs to see what opened and to tap it. Tests choose their own.
+inline int blinkMilliseconds = 200;
+
 // Called once there is an application object.
 void GuardTaps();
 

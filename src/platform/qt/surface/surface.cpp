@@ -22,6 +22,16 @@ RECT SourceArea(const RECT& area, POINT source) {
             source.y + area.bottom - area.top + 1};
 }
 
+// At a fractional ratio a line can begin in the pixel before its area.
+bool Hides(const RECT& cover, const Mark& mark) {
+    RECT touched = TouchedArea(mark);
+    if (std::holds_alternative<LineMark>(mark)) {
+        --touched.left;
+        --touched.top;
+    }
+    return Contains(cover, touched);
+}
+
 QSize UsableSize(int width, int height) {
     return {std::max(width, 1), std::max(height, 1)};
 }
@@ -103,9 +113,8 @@ void Surface::DropHiddenMarks() {
     const QSize size = picture->size;
     const int worthwhileArea = size.width() * size.height() / 32;
     for (auto mark = picture->marks.rbegin(); mark != picture->marks.rend(); ++mark) {
-        const RECT touched = TouchedArea(*mark);
         if (std::any_of(covers.begin(), covers.end(),
-                        [&](const RECT& cover) { return Contains(cover, touched); })) {
+                        [&](const RECT& cover) { return Hides(cover, *mark); })) {
             continue;
         }
         const RECT hidden = HiddenArea(*mark);
