@@ -1,199 +1,230 @@
+// Sessions from start to end with what they say and the files they leave.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+#include <QtWidgets/QApplication>
 #include <optional>
-#include <string>
 
 #include "platform/qt/host/host_window.h"
 #include "platform/windows.h"
 #include "storage/paths.h"
 #include "support/menus.h"
+#include "support/plain_game.h"
 #include "support/played_board.h"
 
 namespace {
 
-// A record as somebody would write it with a pencil: every field at its place, zeros elsewhere.
-std::string Record(const std::string& path, int side, const std::string& cells,
-                   const std::string& size, const std::string& autoSkip,
-                   const std::string& showNumbers) {
-    std::string record(4096, '\0');
-    const auto put = [&record](std::size_t at, const std::string& text) {
-        record.replace(at, text.size(), text);
-    };
-    const std::size_t sizes = path.size() + 1;
-    const std::size_t settings = sizes + 6 + cells.size();
-    put(0, path);
-    put(sizes, std::to_string(side));
-    put(sizes + 3, std::to_string(side));
-    put(sizes + 6, cells);
-    put(settings + 1, size);
-    put(settings + 3, autoSkip);
-    put(settings + 5, showNumbers);
-    for (std::size_t component = 0; component < 3; ++component) {
-        put(settings + 7 + 4 * component, "255");
-        put(settings + 19 + 4 * component, "0");
-    }
-    return record;
-}
-
+const BoardRows otherBoard = {"ABCD", "EF.G", "HIJK", "LMNO"};
 const std::string firstPath = "\\My Documents\\first.puz";
-const std::string emptyGrid =
-    "---.--"
-    "------"
-    "--.---"
-    "------"
-    ".-----"
-    "--.---";
+const std::u16string noPuzzle = u"This file is not a puzzle that Quadrel can open.";
 
-// Says where two files part; thousands of bytes in a message help nobody.
-void ExpectSameBytes(const std::string& actual, const std::string& expected) {
-    EXPECT_EQ(actual.size(), expected.size());
-    const auto parting =
-        std::mismatch(actual.begin(), actual.end(), expected.begin(), expected.end());
-    EXPECT_TRUE(actual == expected) << "first at offset " << parting.first - actual.begin();
-}
+using Messages = std::vector<ShownMessage>;
 
 class Session : public testing::Test {
 protected:
     Session() {
-        ForgetPuzzle();
-        WriteBytes(home.documents() / "first.puz", PuzzleBytes(squareBoard, "First"));
+        // With a first letter that somebody has entered: a puzzle starts empty all the same.
+        std::string begun = PuzzleBytes(squareBoard, "First");
+        begun[52 + 36] = 'Q';
+        PutFile("first.puz", begun);
+        PutFile("second.puz", PuzzleBytes(otherBoard, "Second"));
+        Start();
     }
     ~Session() override {
-        End();
-        EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>());
-    }
-    Handheld& Start() {
-        End();
-        return handheld.emplace(home);
-    }
-    void End() {
         handheld.reset();
+        EXPECT_EQ(TakeShownMessages(), Messages());
     }
-    std::string State() {
-        return ReadBytes(home.stateFile());
+    void Start() {
+        handheld.reset();
+        ForgetPuzzle();
+        handheld.emplace(home);
+    }
+    void PutFile(const std::string& name, const std::string& bytes) {
+        WriteBytes(home.documents() / name, bytes);
+    }
+    void Remove(const std::string& name) {
+        std::filesystem::remove(home.documents() / name);
+    }
+    void Choose(const std::string& name, int answer = IDYES) {
+        ChooseNextFile(home.documents() / name);
+        AnswerNextMessageBox(answer);
+        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+    }
+    static ShownMessage Question(const std::u16string& name) {
+        return {u"Do you want to load the puzzle " + name + u" ?", u"Confirm"};
+    }
+    void Open(const std::string& name) {
+        Choose(name);
+        EXPECT_EQ(TakeShownMessages(),
+                  (Messages{Question(std::u16string(name.begin(), name.end()))}));
+    }
+    static bool IsEmpty() {
+        return PlayerLetters() == [] {
+            std::string empty(SolutionGrid, PlayerLetters().size());
+            std::replace_if(
+                empty.begin(), empty.end(), [](char cell) { return cell != '.'; }, '-');
+            return empty;
+        }();
+    }
+    // Everything that a player would miss.
+    static std::string Present() {
+        std::string path;
+        for (const WCHAR* unit = CurrentPuzzlePath; *unit != 0; ++unit) {
+            path += static_cast<char>(*unit);
+        }
+        return path + PlayerLetters() + std::string(SolutionGrid, PlayerLetters().size()) +
+               TitleText + ClueTable[1] + std::to_string(CursorCol);
     }
 
     TemporaryHome home;
     std::optional<Handheld> handheld;
 };
 
-const std::string playedGrid =
-    "XGH.--"
-    "------"
-    "--.---"
-    "----A-"
-    ".---B-"
-    "--.-E-";
-
-// Every way of entering and moving once, and the grid it must leave.
-void PlayAlong(Handheld& handheld) {
-    handheld.Type("XYZW");                  // the word is full: its last letter is replaced
-    handheld.Press(Qt::Key_Backspace);      // erases it and steps back
-    handheld.Press(Qt::Key_Return);         // down
-    handheld.Type("G");                     // over the Y
-    handheld.Press(Qt::Key_Right);          // the next word down starts in the third column
-    handheld.Type("H");                     //
-    handheld.Press(Qt::Key_Left);           // back to the second
-    handheld.TapCell(3, 4);                 //
-    handheld.Type("AB");                    // down still
-    handheld.TapCell(5, 4);                 // the selected one: across
-    handheld.Commit(QString(QChar(0xE9)));  // e with an accent
-    handheld.Type("1 ");                    // no letters
-}
-
-TEST_F(Session, LeavesItsStateAndGoesOnWhereItStopped) {
-    PlayAlong(Start());
-    EXPECT_EQ(std::tuple(CursorRow, CursorCol, Direction), std::tuple(5, 5, 0));
-    Magnification = mediumSize;
-    AutoSkip = 1;
-    ShowNumbers = 1;
-    End();
-    const std::string state = State();
-    ExpectSameBytes(state, Record(firstPath, 6, playedGrid, "1", "1", "1"));
-    ForgetPuzzle();
+// A start may find letters of another puzzle, or another puzzle than the one that was left.
+TEST_F(Session, LettersOfAnotherPuzzleAreDropped) {
+    EXPECT_TRUE(IsEmpty());
+    handheld->Type("XYZ");
+    BoardRows moved = squareBoard;
+    moved[1][2] = '.';
+    PutFile("first.puz", PuzzleBytes(moved));
     Start();
-    EXPECT_EQ(PlayerLetters(), playedGrid);
-    EXPECT_EQ(std::string(SolutionGrid, 6), "ABC.DE");
-    EXPECT_EQ(std::tuple(CellSize, AutoSkip, ShowNumbers), std::tuple(20, 1, 1));
-    End();
-    ExpectSameBytes(State(), state);
-}
-
-// The restored letters are another puzzle's when the black squares differ, or the file is gone.
-TEST_F(Session, DropsLettersOfAnotherPuzzleAtTheNextStart) {
-    PlayAlong(Start());
-    End();
-    BoardRows other = squareBoard;
-    other[1][2] = '.';
-    WriteBytes(home.documents() / "first.puz", PuzzleBytes(other));
-    std::string expected = emptyGrid;
-    expected[1 * 6 + 2] = '.';
+    EXPECT_TRUE(IsEmpty()) << "after a start with other black squares";
+    handheld->Type("XYZ");
+    handheld.reset();
+    Remove("first.puz");
+    Remove("second.puz");
+    // Of the same squares: only that the letters belong to another file tells them apart.
+    PutFile("third.puz", PuzzleBytes(moved));
     Start();
-    EXPECT_EQ(PlayerLetters(), expected);
-    PlayAlong(*handheld);
-    End();
-    std::filesystem::remove(home.documents() / "first.puz");
-    WriteBytes(home.documents() / "second.puz", PuzzleBytes(squareBoard));
-    Start();
-    EXPECT_EQ(PlayerLetters(), emptyGrid);
-    EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\second.puz");
+    EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\third.puz");
+    EXPECT_TRUE(IsEmpty()) << "of the fallback";
+    PutFile("second.puz", PuzzleBytes(otherBoard));
+    Open("second.puz");
+    handheld->Type("XYZ");
+    Open("third.puz");
+    PutFile("second.puz", PuzzleBytes({"ABCD", "E.FG", "HIJK", "LMNO"}));
+    Open("second.puz");
+    EXPECT_TRUE(IsEmpty()) << "of an older file of the same name";
 }
 
-TEST_F(Session, WithoutAnyPuzzleSaysSoAndTakesEverythingCalmly) {
-    std::filesystem::remove(home.documents() / "first.puz");
-    Start();
-    EXPECT_EQ(
-        TakeShownMessages(),
-        (std::vector<ShownMessage>{
-            {u"Please choose a puzzle file from the Available Puzzles option.", u"Choose File"}}));
-    EXPECT_TRUE(handheld->Running());
-    const QImage bar = handheld->Client().copy(0, 248, 240, 20);
-    QImage white(bar.size(), bar.format());
-    white.fill(Qt::white);
-    EXPECT_EQ(bar, white) << "a clue where there is no puzzle";
-    EXPECT_TRUE(std::filesystem::is_directory(home.documents() / "Quadrel Puzzles"));
-    handheld->Tap(3, 3);
-    handheld->Press(Qt::Key_Left);
-    handheld->Press(Qt::Key_Backspace);
-    handheld->PressPanelButton();
-    handheld->RightClick(100, 100);
-    End();
-    EXPECT_EQ(State().size(), 4096u);
+TEST_F(Session, CancelAndNoChangeAndWriteNothing) {
+    handheld->Type("XYZ");
+    const std::string before = Present();
+    const auto files = home.Files();
+    ChooseNextFile({});
+    EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+    Choose("second.puz", IDNO);
+    Choose("second.puz", 0);
+    EXPECT_EQ(TakeShownMessages(), (Messages{Question(u"second.puz"), Question(u"second.puz")}));
+    EXPECT_EQ(Present(), before);
+    EXPECT_TRUE(home.Files() == files);
 }
 
-// A folder with a puzzle's name, and a file that is none.
-TEST_F(Session, UnreadableFallbackLeavesTheProgramRunningWithoutPuzzle) {
-    std::filesystem::remove(home.documents() / "first.puz");
-    std::filesystem::create_directory(home.documents() / "folder.puz");
-    EXPECT_TRUE(Start().Running());
-    End();
-    std::filesystem::remove(home.documents() / "folder.puz");
-    std::filesystem::remove(home.stateFile());
-    WriteBytes(home.documents() / "stump.puz", std::string(81, '\x0F'));
-    EXPECT_TRUE(Start().Running());
-    EXPECT_EQ(TakeShownMessages(),
-              (std::vector<ShownMessage>{
-                  {u"This file is not a puzzle that Quadrel can open.", u"Open File"}}));
-}
-
-TEST_F(Session, StateFilesFromElsewhereDoNoHarm) {
-    const std::string good = Record(firstPath, 6, playedGrid, "0", "0", "0");
-    std::string wide = good;
-    wide.replace(firstPath.size() + 4, 2, "99");
-    for (const std::string& state :
-         {std::string(), std::string("\\"), std::string(4096, '9'), std::string(4096, '\0'),
-          good.substr(0, 40), wide, Record(firstPath, 40, std::string(1600, 'A'), "7", "x", "2")}) {
-        WriteBytes(home.stateFile(), state);
-        Start();
-        EXPECT_EQ(PlayerLetters(), emptyGrid);
-        EXPECT_EQ(std::tuple(Magnification.Small, AutoSkip, ShowNumbers), std::tuple(1, 0, 0));
+// Faults: the puzzle in play is lost to a file that is none, or its letters are.
+TEST_F(Session, FilesThatCannotBePlayedLeaveThePuzzleInPlay) {
+    const std::string good = PuzzleBytes(otherBoard);
+    std::string tooLarge = good;
+    tooLarge[44] = tooLarge[45] = 41;
+    const std::u16string notSquare = u"Quadrel plays square puzzles only. This one is ";
+    const std::pair<std::string, std::u16string> files[] = {
+        {"<html><body>The page you asked for is not here, sorry.</body></html>", noPuzzle},
+        {"", noPuzzle},
+        {tooLarge, noPuzzle},
+        {good.substr(0, 52 + 31), noPuzzle},
+        {RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes(), noPuzzle},
+        {PuzzleBytes(lopsidedBoard), notSquare + u"7 by 5."}};
+    handheld->Type("XYZ");
+    SelectCell(0, 0, 0);
+    RepaintFully(MainWindow);
+    const std::string before = Present();
+    const QImage screen = handheld->Client();
+    for (const auto& [bytes, reason] : files) {
+        PutFile("broken.puz", bytes);
+        Choose("broken.puz");
+        EXPECT_EQ(TakeShownMessages(), (Messages{Question(u"broken.puz"), {reason, u"Open File"}}))
+            << bytes.size() << " bytes";
+        EXPECT_EQ(Present(), before) << bytes.size() << " bytes";
+        EXPECT_EQ(handheld->Client(), screen);
     }
 }
 
-// Nothing was asked for and nothing may be lost: the state that cannot be written stays as it was.
+TEST_F(Session, AFileThatGoesDuringTheQuestionLeavesThePuzzleInPlay) {
+    handheld->Type("XYZ");
+    const std::string letters = PlayerLetters();
+    DoDuringNextMessageBox([this] { Remove("second.puz"); });
+    Open("second.puz");
+    EXPECT_EQ(PlayerLetters(), letters);
+}
+
+// Closing the window answers the open question with No and saves.
+TEST_F(Session, ClosingDuringTheQuestionEndsTheProgramWithItsState) {
+    handheld->Type("XYZ");
+    DoDuringNextMessageBox([] { Host().close(); });
+    Choose("second.puz", 0);
+    TakeShownMessages();
+    EXPECT_FALSE(handheld->Running());
+    EXPECT_NE(ReadBytes(home.stateFile()).find("XYZ.--"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(home.documents() / "first.dat"));
+}
+
+// A folder with a puzzle's name and a file that is none are no puzzles, either.
+TEST_F(Session, WithoutAnyPuzzleEverythingIsTakenCalmly) {
+    handheld.reset();
+    Remove("second.puz");
+    Remove("first.puz");
+    const ShownMessage choose{u"Please choose a puzzle file from the Available Puzzles option.",
+                              u"Choose File"};
+    for (const std::string kind : {"none", "folder", "stump"}) {
+        SCOPED_TRACE(kind);
+        std::filesystem::remove(home.stateFile());
+        if (kind == "folder") {
+            std::filesystem::create_directory(home.documents() / "a.puz");
+        } else if (kind == "stump") {
+            Remove("a.puz");
+            PutFile("a.puz", std::string(81, '\x0F'));
+        }
+        Start();
+        const auto said = kind == "none"    ? Messages{choose}
+                          : kind == "stump" ? Messages{{noPuzzle, u"Open File"}}
+                                            : Messages();
+        EXPECT_EQ(TakeShownMessages(), said);
+        const QImage bar = handheld->Client().copy(0, 248, 240, 20);
+        QImage white(bar.size(), bar.format());
+        white.fill(Qt::white);
+        EXPECT_EQ(bar, white) << "a clue where there is no puzzle";
+        handheld->Tap(3, 3);
+        for (int key : {int{'A'}, int{Qt::Key_Left}, int{Qt::Key_Right}, int{Qt::Key_Return},
+                        int{Qt::Key_Backspace}}) {
+            handheld->Press(key);
+        }
+        handheld->PressPanelButton();
+        handheld->RightClick(100, 100);
+        handheld->Close();
+        EXPECT_EQ(ReadBytes(home.stateFile()).size(), 4096u);
+    }
+    Start();
+    TakeShownMessages();
+    PutFile("second.puz", PuzzleBytes(otherBoard));
+    Open("second.puz");
+    EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(Session, StateFilesFromElsewhereDoNoHarm) {
+    handheld.reset();
+    const std::string good = PlainRecord(firstPath, BoardRows(6, "ABCDEF"), {});
+    for (const std::string& state : {std::string(), std::string("\\"), std::string(4096, '9'),
+                                     std::string(4096, '\0'), good.substr(0, 40), good}) {
+        WriteBytes(home.stateFile(), state);
+        Start();
+        EXPECT_TRUE(IsEmpty());
+        handheld.reset();
+    }
+}
+
 TEST_F(Session, EveryWayOfEndingWritesTheState) {
-    const std::string expected = Record(firstPath, 6, "B" + emptyGrid.substr(1), "0", "0", "0");
+    BoardRows letters = EmptyBoard(squareBoard);
+    letters[0][0] = 'B';
     const std::vector<void (*)(Handheld&)> endings = {
         [](Handheld& running) { running.Close(); },
         [](Handheld& running) { ChooseFromBar(running, "Main Menu", {"Exit"}); },
@@ -204,14 +235,48 @@ TEST_F(Session, EveryWayOfEndingWritesTheState) {
             running.Settle();
         }};
     for (std::size_t ending = 0; ending < endings.size(); ++ending) {
+        handheld.reset();
         std::filesystem::remove(home.stateFile());
-        Handheld& running = Start();
-        running.Type("B");
-        endings[ending](running);
-        EXPECT_FALSE(running.Running()) << ending;
-        ASSERT_TRUE(std::filesystem::exists(home.stateFile())) << ending;
-        SCOPED_TRACE(ending);
-        ExpectSameBytes(State(), expected);
+        Start();
+        handheld->Type("B");
+        endings[ending](*handheld);
+        EXPECT_FALSE(handheld->Running()) << ending;
+        EXPECT_TRUE(ReadBytes(home.stateFile()) == PlainRecord(firstPath, letters, {})) << ending;
+    }
+}
+
+TEST_F(Session, BoxesSayWhatTheyAreAbout) {
+    const auto said = [this](const ItemPath& path) {
+        EXPECT_TRUE(path.isEmpty() ? handheld->PressButton("Checks the puzzle")
+                                   : ChooseFromBar(*handheld, "Main Menu", path));
+        return TakeShownMessages();
+    };
+    const Messages nothingToCheck{
+        {u"This button will check puzzle for errors. You've have not yet started the puzzle, so "
+         u"there is nothing to check.",
+         u"Puzzle Checker"}};
+    EXPECT_EQ(said({}), nothingToCheck);
+    handheld->Type("AB");
+    EXPECT_EQ(said({}),
+              (Messages{{u"All the letters entered so far are correct.", u"Nothing Wrong"}}));
+    // A stray Enter must not cost the letters.
+    const std::string letters = PlayerLetters();
+    DoDuringNextMessageBox([] {
+        const QPointer<QWidget> box = QApplication::activeModalWidget();
+        SendKey(box->focusWidget(), Qt::Key_Return);
+        while (box != nullptr && box->isVisible()) {
+            QCoreApplication::processEvents();
+        }
+    });
+    EXPECT_EQ(said({"Clear", "Puzzle"}),
+              (Messages{{u"Do you want to clear the puzzle ? This cannot be undone.",
+                         u"Are You Sure?"}}));
+    EXPECT_EQ(PlayerLetters(), letters);
+    const auto info = said({"Puzzle Info"});
+    ASSERT_EQ(info.size(), 1u);
+    EXPECT_EQ(info[0].title, u"Puzzle Information");
+    for (const char16_t* text : {u"First", u"Author", u"Copyright"}) {
+        EXPECT_NE(info[0].text.find(text), std::u16string::npos);
     }
 }
 

@@ -2,216 +2,152 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "play/settings.h"
 #include "storage/paths.h"
-#include "support/boards.h"
-#include "support/temporary_home.h"
+#include "support/plain_game.h"
 
 namespace {
 
-std::string ModelText() {
-    std::string text(PlayerGrid, sizeof PlayerGrid);
-    for (int number : {PuzzleHeight, PuzzleWidth, Magnification.Small, Magnification.Medium,
-                       Magnification.Large, AutoSkip, ShowNumbers, static_cast<int>(SquareColor),
-                       static_cast<int>(BackgroundColor)}) {
-        text += " " + std::to_string(number);
-    }
-    for (const WCHAR* unit = CurrentPuzzlePath; *unit != 0; ++unit) {
-        text += " " + std::to_string(static_cast<int>(*unit));
-    }
-    return text;
+constexpr PlainSettings usual{0, false, true};
+// Every setting away from the usual.
+constexpr PlainSettings unusual{1, true, false, RGB(1, 22, 133), RGB(254, 5, 60)};
+const BoardRows savedRows = {"AB.-CDE", "FGHIJKL", "MNOPQRS"};
+constexpr std::size_t grid = 2 + 6;
+constexpr std::size_t gridEnd = grid + 21;
+
+std::string SmallRecord() {
+    return PlainRecord("p", savedRows, unusual);
 }
 
 class Progress : public testing::Test {
 protected:
     Progress() {
-        std::memset(PlayerGrid, 'P', sizeof PlayerGrid);
+        Forget();
+    }
+    static void Forget() {
+        std::fill(std::begin(PlayerGrid), std::end(PlayerGrid), 'P');
         CopyPath(u"\\My Documents\\a.puz", CurrentPuzzlePath);
         PuzzleHeight = PuzzleWidth = 15;
         Magnification = {1, 0, 0};
         AutoSkip = 0;
         ShowNumbers = 1;
-        BackgroundColor = RGB(255, 255, 255);
-        SquareColor = RGB(0, 0, 0);
+        BackgroundColor = usual.letterCells;
+        SquareColor = usual.squares;
     }
-    std::filesystem::path HostPath() const {
-        return home.documents() / "p.dat";
-    }
-    std::string Save() {
-        CopyPath(u"\\My Documents\\p.dat", path);
+    static std::string Saved() {
+        WCHAR path[MAX_PATH] = u"\\My Documents\\p.dat";
         SaveProgress(path);
-        return ReadBytes(HostPath());
+        return ReadBytes(hostPath());
     }
-    bool Load(const std::string& bytes) {
-        WriteBytes(HostPath(), bytes);
-        CopyPath(u"\\My Documents\\p.dat", path);
-        return LoadProgress(path);
+    static bool Load(const std::string& bytes) {
+        WriteBytes(hostPath(), bytes);
+        WCHAR path[MAX_PATH] = u"\\My Documents\\p.dat";
+        const bool taken = LoadProgress(path);
+        EXPECT_EQ(std::u16string(path) == u"Could not open User", !taken);
+        return taken;
     }
-    void ExpectNotTaken(const std::string& bytes) {
-        const std::string before = ModelText();
+    static std::filesystem::path hostPath() {
+        return std::filesystem::path(std::getenv("QUADREL_HOME")) / "Documents" / "p.dat";
+    }
+    static void ExpectNotTaken(const std::string& bytes) {
+        const std::string before = Saved();
         EXPECT_FALSE(Load(bytes));
-        EXPECT_EQ(path, std::u16string(u"Could not open User"));
-        EXPECT_TRUE(ModelText() == before);
+        EXPECT_TRUE(Saved() == before);
     }
 
-    TemporaryHome home;
-    WCHAR path[MAX_PATH] = {};
+    const TemporaryHome home;
 };
 
-// A record of three rows and seven columns with every setting away from its default.
-constexpr std::size_t smallGrid = 2 + 6;
-constexpr std::size_t smallGridEnd = smallGrid + 21;
-
-std::string SmallRecord() {
-    std::string record(4096, '\0');
-    const auto put = [&record](std::size_t offset, std::string_view text) {
-        record.replace(offset, text.size(), text);
-    };
-    put(0, "p");
-    put(2, "3");
-    put(5, "7");
-    put(smallGrid, "AB.-CDEFGHIJKLMNOPQRS");
-    put(smallGridEnd + 1, "1");
-    put(smallGridEnd + 3, "1");
-    put(smallGridEnd + 5, "0");
-    put(smallGridEnd + 7, "1");
-    put(smallGridEnd + 11, "22");
-    put(smallGridEnd + 15, "133");
-    put(smallGridEnd + 19, "254");
-    put(smallGridEnd + 23, "5");
-    put(smallGridEnd + 27, "60");
-    return record;
-}
-
-}  // namespace
-
-TEST_F(Progress, RestoresEveryField) {
+// Nothing of the puzzle that was left shows in a larger one.
+TEST_F(Progress, RestoresEveryFieldAndEmptiesTheRest) {
     ASSERT_TRUE(Load(SmallRecord()));
     EXPECT_EQ(CurrentPuzzlePath, std::u16string(u"p"));
-    EXPECT_EQ(PuzzleHeight, 3);
-    EXPECT_EQ(PuzzleWidth, 7);
-    EXPECT_EQ(std::string(PlayerGrid, 21), "AB.-CDEFGHIJKLMNOPQRS");
-    // Nothing of the puzzle that was left shows in a larger one.
     EXPECT_EQ(std::string(PlayerGrid + 21, maxCells - 21), std::string(maxCells - 21, '-'));
-    EXPECT_EQ(Magnification.Small * 100 + Magnification.Medium * 10 + Magnification.Large, 10);
-    EXPECT_EQ(AutoSkip, 1);
-    EXPECT_EQ(ShowNumbers, 0);
-    EXPECT_EQ(BackgroundColor, RGB(1, 22, 133));
-    EXPECT_EQ(SquareColor, RGB(254, 5, 60));
-    EXPECT_TRUE(Save() == SmallRecord());
+    EXPECT_TRUE(Saved() == SmallRecord());
 }
 
 TEST_F(Progress, TakesFromARecordOnlyWhatMakesSense) {
     std::string record = SmallRecord();
     // A revealed cell may be anything that a solution holds, but no control byte.
     const std::string cells("a1$@+ \xC9\xFF\0\x01\n\x7F.-Z", 15);
-    record.replace(smallGrid, cells.size(), cells);
-    record[smallGridEnd + 1] = '7';
-    record[smallGridEnd + 3] = '2';
-    record.replace(smallGridEnd + 5, 2, "99");
-    record.replace(smallGridEnd + 7, 4, std::string("511\0", 4));
-    Magnification = {0, 0, 1};
+    record.replace(grid, cells.size(), cells);
+    record[gridEnd + 1] = '7';
+    record[gridEnd + 3] = '2';
+    record.replace(gridEnd + 5, 2, "99");
+    record.replace(gridEnd + 7, 4, std::string("511\0", 4));
     ASSERT_TRUE(Load(record));
     EXPECT_EQ(std::string(PlayerGrid, 15), "a1$@+ \xC9\xFF----.-Z");
-    EXPECT_EQ(Magnification.Large, 1);
-    EXPECT_EQ(AutoSkip, 0);
-    EXPECT_EQ(ShowNumbers, 1);
+    EXPECT_EQ(std::tuple(Magnification.Small, AutoSkip, ShowNumbers), std::tuple(1, 0, 1));
     EXPECT_EQ(BackgroundColor, RGB(255, 22, 133));
 }
 
 TEST_F(Progress, ForeignRecordsChangeNothing) {
-    const std::string before = ModelText();
-    CopyPath(u"\\My Documents\\missing.dat", path);
-    EXPECT_FALSE(LoadProgress(path));
-    EXPECT_EQ(path, std::u16string(u"Could not open User"));
-    EXPECT_TRUE(ModelText() == before);
-
-    for (const char* size : {"0", "41", "99", "-1", "-9", "x", ""}) {
+    for (const std::string size : {"0", "41", "99", "-1", "x", ""}) {
         for (std::size_t slot : {2U, 5U}) {
-            SCOPED_TRACE(std::string(size) + " at " + std::to_string(slot));
-            std::string record = SmallRecord();
-            record.replace(slot, 3, std::string(size).append(3 - std::strlen(size), '\0'));
-            ExpectNotTaken(record);
+            SCOPED_TRACE(size + " at " + std::to_string(slot));
+            ExpectNotTaken(SmallRecord().replace(slot, 3, size + std::string(3 - size.size(), 0)));
         }
     }
-    ExpectNotTaken(std::string(4096, '\0'));
-    ExpectNotTaken(std::string(4096, 'x'));
-    ExpectNotTaken(std::string(5000, '9'));
-    ExpectNotTaken(std::string(260, 'p') + SmallRecord().substr(1));
-    ExpectNotTaken(std::string(4080, 'p') + SmallRecord().substr(1));
+    for (const std::string& bytes :
+         {std::string(4096, '\0'), std::string(4096, 'x'), std::string(5000, '9'),
+          std::string(260, 'p') + SmallRecord(), std::string(4080, 'p') + SmallRecord()}) {
+        ExpectNotTaken(bytes);
+    }
 }
 
-TEST_F(Progress, CutAtEveryByte) {
-    for (std::size_t length = 0; length < smallGridEnd + 40; ++length) {
+TEST_F(Progress, ARecordCutAnywhereGivesWhatItHolds) {
+    for (std::size_t length = 0; length < gridEnd + 40; ++length) {
         SCOPED_TRACE(length);
+        Forget();
         const std::string cut = SmallRecord().substr(0, length);
-        if (length < smallGridEnd) {
+        if (length < gridEnd) {
             ExpectNotTaken(cut);
             continue;
         }
-        Magnification = {0, 0, 1};
-        BackgroundColor = RGB(9, 9, 9);
         ASSERT_TRUE(Load(cut));
-        EXPECT_EQ(Magnification.Large, length > smallGridEnd + 2 ? 0 : 1);
-        EXPECT_EQ(BackgroundColor, length > smallGridEnd + 18 ? RGB(1, 22, 133) : RGB(9, 9, 9));
+        EXPECT_EQ(Magnification.Medium, length > gridEnd + 2 ? 1 : 0);
+        EXPECT_EQ(BackgroundColor, length > gridEnd + 18 ? RGB(1, 22, 133) : usual.letterCells);
     }
 }
 
 TEST_F(Progress, RandomBytesAreHarmless) {
-    for (unsigned seed = 0; seed < 500; ++seed) {
-        SCOPED_TRACE(seed);
-        std::mt19937 random(seed);
+    std::mt19937 random(1);
+    for (int round = 0; round < 500; ++round) {
         std::string record = SmallRecord();
         for (auto change = random() % 20; change > 0; --change) {
-            record[random() % (smallGridEnd + 31)] = static_cast<char>(random());
+            record[random() % (gridEnd + 31)] = static_cast<char>(random());
         }
         Load(record);
         ASSERT_EQ(Magnification.Small + Magnification.Medium + Magnification.Large, 1);
-        ASSERT_TRUE(PuzzleHeight >= 1 && PuzzleHeight <= 40);
-        ASSERT_TRUE(PuzzleWidth >= 1 && PuzzleWidth <= 40);
+        ASSERT_TRUE(PuzzleHeight >= 1 && PuzzleHeight <= 40 && PuzzleWidth >= 1);
+        ASSERT_LE(PuzzleWidth, 40);
     }
 }
 
-TEST_F(Progress, LongestPathAndLargestBoardSurvive) {
+TEST_F(Progress, TheLongestPathAndTheLargestBoardSurvive) {
     const std::u16string longest = u"\\" + std::u16string(MAX_PATH - 2, u'\u6F22');
     ASSERT_TRUE(CopyPath(longest, CurrentPuzzlePath));
     PuzzleHeight = PuzzleWidth = 40;
-    SquareColor = RGB(1, 2, 3);
-    const std::string record = Save();
+    const std::string record = Saved();
     ASSERT_EQ(record.size(), 4096U);
-    CurrentPuzzlePath[0] = 0;
-    SquareColor = 0;
+    Forget();
     ASSERT_TRUE(Load(record));
     EXPECT_EQ(CurrentPuzzlePath, longest);
-    EXPECT_EQ(SquareColor, RGB(1, 2, 3));
-    EXPECT_EQ(PlayerGrid[maxCells - 1], 'P');
+    EXPECT_TRUE(Saved() == record);
 }
 
 // What a file that is not square leaves in the sizes must not cost the settings.
-TEST_F(Progress, SizesNoRecordHoldsKeepTheSettings) {
+TEST_F(Progress, SizesThatNoRecordHoldsKeepTheSettings) {
     for (const auto& [width, height] : {std::pair{100, 16}, {0, 127}, {1, 127}}) {
-        SCOPED_TRACE(width);
         PuzzleWidth = width;
         PuzzleHeight = height;
         AutoSkip = 1;
-        const std::string record = Save();
+        const std::string record = Saved();
         AutoSkip = 0;
-        ASSERT_TRUE(Load(record));
-        EXPECT_EQ(AutoSkip, 1);
-        EXPECT_EQ(PuzzleWidth, 15);
+        ASSERT_TRUE(Load(record)) << width;
+        EXPECT_EQ(std::pair(AutoSkip, PuzzleWidth), std::pair(1, 15));
         EXPECT_EQ(std::string(PlayerGrid, 225), std::string(225, '-'));
     }
 }
 
-TEST(ProgressFilePath, ReplacesTheLastFourCharacters) {
-    WCHAR path[MAX_PATH] = u"kept";
-    EXPECT_FALSE(ProgressFilePath(u"puz", path));
-    EXPECT_EQ(path, std::u16string(u"kept"));
-    EXPECT_TRUE(ProgressFilePath(u"\\a.b\\c.PUZ", path));
-    EXPECT_EQ(path, std::u16string(u"\\a.b\\c.dat"));
-    const std::u16string longest(MAX_PATH - 1, u'x');
-    EXPECT_TRUE(ProgressFilePath(longest.c_str(), path));
-    EXPECT_EQ(std::u16string(path).size(), longest.size());
-}
+}  // namespace
