@@ -11,6 +11,7 @@ namespace {
 
 constexpr double ratios[] = {1, 1.37, 2, 2.5, 3};
 constexpr QRgb white = 0xFFFFFFFF;
+constexpr QRgb black = 0xFF000000;
 constexpr QRgb green = 0xFF00FF00;
 constexpr UINT centred = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
 
@@ -21,39 +22,11 @@ protected:
     }
 };
 
-// A bitmap to draw on, with one font and green behind opaque text.
-class Canvas {
-public:
-    Canvas(int width, int height, int fontHeight = -10, int weight = 0)
-        : context(CreateCompatibleDC(nullptr)),
-          oldBitmap(SelectObject(context, CreateCompatibleBitmap(context, width, height))) {
-        LOGFONTW description;
-        description.lfHeight = fontHeight;
-        description.lfWeight = weight;
-        std::u16string(u"System").copy(description.lfFaceName, LF_FACESIZE - 1);
-        oldFont = SelectObject(context, CreateFontIndirectW(&description));
-        SetBkColor(context, RGB(0, 255, 0));
-        SetBkMode(context, TRANSPARENT);
-    }
-    ~Canvas() {
-        DeleteObject(SelectObject(context, oldFont));
-        DeleteObject(SelectObject(context, oldBitmap));
-        DeleteDC(context);
-    }
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
-
-    QImage DrawText(const std::u16string& text, RECT box, UINT format) const {
-        DrawTextW(context, text.c_str(), -1, &box, format);
-        return ImageOf(context);
-    }
-
-    const HDC context;
-
-private:
-    HGDIOBJ oldBitmap;
-    HGDIOBJ oldFont;
-};
+QImage Drawn(QSize size, const TextMark& mark) {
+    Surface surface(size.width(), size.height());
+    surface.Draw(mark);
+    return surface.Image();
+}
 
 QRect InkOf(const QImage& image) {
     QRect ink;
@@ -74,13 +47,13 @@ TEST_F(Drawing, TextNeverLeavesItsBoxAndHidesWhatIsUnderItOnlyWhenOpaque) {
         std::mt19937 random(seed);
         const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
         Surface::SetRatioOfAll(ratios[seed % 5]);
-        const Canvas canvas(60, 40, below(60) - 20, below(2) * 700);
+        const FontChoice font{FontChoice::Face::System, below(2) == 0, below(40) + 1.0};
         const bool opaque = below(2) == 0;
-        SetBkMode(canvas.context, opaque ? OPAQUE : TRANSPARENT);
         RECT box{below(60), below(40), 0, 0};
         box.right = box.left + below(40) - 2;
         box.bottom = box.top + below(30) - 2;
-        const QImage image = canvas.DrawText(texts[seed % 5], box, formats[below(4)]);
+        const QImage image =
+            Drawn({60, 40}, {box, texts[seed % 5], formats[below(4)], font, black, opaque, green});
         const QRect ink = InkOf(image);
         const QRect allowed = Scale{ratios[seed % 5]}.Area(box);
         EXPECT_TRUE(ink.isEmpty() || allowed.contains(ink));
@@ -97,8 +70,9 @@ TEST_F(Drawing, CentredLettersSitInTheMiddleAndAreSharp) {
         Surface::SetRatioOfAll(ratio);
         for (int cell = 10; cell <= 40; cell += 3) {
             for (char16_t letter : std::u16string(u"AHIMOTUVWXY")) {
-                const Canvas canvas(cell + 1, cell + 1, cell - 2, 700);
-                const QImage image = canvas.DrawText({letter}, {0, 0, cell + 1, cell + 1}, centred);
+                const FontChoice font{FontChoice::Face::System, true, cell * 0.8};
+                const QImage image = Drawn(QSize(cell + 1, cell + 1),
+                                           {{0, 0, cell + 1, cell + 1}, {letter}, centred, font});
                 const QRect ink = InkOf(image);
                 const QPoint unevenness = ink.topLeft() -
                                           QPoint(image.width() - 1, image.height() - 1) +
@@ -115,7 +89,8 @@ TEST_F(Drawing, CentredLettersSitInTheMiddleAndAreSharp) {
 
 TEST_F(Drawing, WordsBreakIntoLinesThatFitTheBox) {
     const auto draw = [](const std::u16string& text) {
-        return Canvas(100, 40).DrawText(text, {1, 0, 99, 40}, DT_WORDBREAK);
+        const FontChoice font{FontChoice::Face::System, false, 10};
+        return Drawn({100, 40}, {{1, 0, 99, 40}, text, DT_WORDBREAK, font});
     };
     const QImage broken = draw(u"Considerable indescribable");
     EXPECT_EQ(broken, draw(u"Considerable\nindescribable"));

@@ -134,22 +134,6 @@ TEST_F(Internet, BrokenAndLargeAnswersAreErrors) {
     ExpectError("/bomb", {{ZippedPage(std::string(50'000'000, '\0'))}}, 0, ERROR_FILE_TOO_LARGE);
 }
 
-TEST_F(Internet, AddressesThatLeadNowhereSayWhy) {
-    // The resolver gives up at once where there is no network.
-    setenv("RES_OPTIONS", "timeout:1 attempts:1", 1);
-    const std::pair<std::string, DWORD> addresses[] = {
-        {"", ERROR_INTERNET_INVALID_URL},
-        {"http://127.0.0.1:99999/a.puz", ERROR_INTERNET_INVALID_URL},
-        {"file:///etc/passwd", ERROR_INTERNET_UNRECOGNIZED_SCHEME},
-        {"http://nowhere.invalid/a.puz", ERROR_INTERNET_NAME_NOT_RESOLVED},
-        {RefusedLink(), ERROR_INTERNET_CANNOT_CONNECT}};
-    for (const auto& [address, error] : addresses) {
-        EXPECT_EQ(Fetch(address).openError, error) << address;
-    }
-    server.Put("/a%20b", Page("found"));
-    EXPECT_EQ(Fetch(" " + server.Link("/a b") + " ").content, "found");
-}
-
 // What one server says stays with it, and nobody but the server hears of the player's wish.
 TEST_F(Internet, RedirectionsAreFollowedTenTimesAndCarryNothingAlong) {
     setenv("http_proxy", RefusedLink().c_str(), 1);
@@ -240,21 +224,6 @@ TEST_F(Internet, WaitingShowsASignWhenItLasts) {
     ASSERT_FALSE(turning.empty());
     EXPECT_NE(turning.front(), turning.back());
     EXPECT_EQ(sign(), nullptr);
-}
-
-TEST_F(Internet, WaitingEndsAtOnceWhenTheProgramIsAskedToEnd) {
-    server.Put("/silent", WebAnswer{{}, 0, stayOpen});
-    server.Put("/stops", WebAnswer{{PageWithoutLength("a")}, 0, stayOpen});
-    longestSilence = 10'000;
-    const auto close = [this] {
-        if (Asked()) {
-            Host().close();
-        }
-    };
-    EXPECT_NE(Fetch(server.Link("/stops"), close).readError, ERROR_INTERNET_TIMEOUT);
-    EXPECT_EQ(Fetch(server.Link("/silent")).openError, ERROR_INTERNET_OPERATION_CANCELLED);
-    handheld->Settle();
-    EXPECT_FALSE(handheld->Running());
 }
 
 }  // namespace

@@ -99,14 +99,6 @@ TEST_F(StartedHelp, LeavesThePanelAndWhenItIsClosedTheKeysToTheGame) {
     EXPECT_EQ(QApplication::focusWidget(), MainWindow->widget);
 }
 
-TEST_F(StartedHelp, StartsNoOtherProgram) {
-    EXPECT_FALSE(CreateProcessW(u"other.exe", u"OvelQuadrel.htm"));
-    EXPECT_FALSE(CreateProcessW(viewer, u"Missing.htm"));
-    for (const WCHAR* line : {u"", u"http://", u"file:///etc/passwd", u"--help", u"example.com"}) {
-        EXPECT_FALSE(CreateProcessW(browser, line)) << QString::fromUtf16(line).toStdString();
-    }
-}
-
 // The desktop's opener of addresses is a script of the test's; the second one
 // finds no browser.
 TEST_F(StartedHelp, SendsAddressesToTheDesktopsBrowserAndTellsThemWhenThereIsNone) {

@@ -109,7 +109,9 @@ protected:
         plain.Add(mark);
     }
     void CopyOther() {
-        const Mark mark = MarkOf(AnyGenes());
+        Genes genes = AnyGenes();
+        genes[4] = 0;  // no smooth corners: where an edge cuts them they are a shade different
+        const Mark mark = MarkOf(genes);
         other.Draw(mark);
         plainOther.Add(mark);
         const POINT source{Below(30) - 10, Below(30) - 10};
@@ -121,7 +123,7 @@ protected:
     void ChangeOneGene() {
         const auto changed = static_cast<std::size_t>(Below(12));
         board[changed][static_cast<std::size_t>(Below(10))] = Below(1000);
-        if (Below(3) == 0) {
+        if (Below(4) != 0) {
             Draw(MarkOf(board[changed]));
             return;
         }
@@ -178,8 +180,8 @@ TEST_P(Surfaces, ShowWhatDrawingEveryMarkWouldShow) {
     for (int step = 0; step < 150 && !HasFailure(); ++step) {
         SCOPED_TRACE(step);
         switch (Below(14)) {
-            case 0: CopyOther(); break;
-            case 1:
+            case 0:
+            case 1: CopyOther(); break;
             case 2: Surface::SetRatioOfAll(ratios[Below(5)]); break;
             case 3: Below(4) == 0 ? Scatter() : Resize(); break;
             case 4:
