@@ -24,7 +24,7 @@ constexpr Link links[] = {
     {{52, 221, 189, 229}, OpenWebSite},
 };
 
-void Open(HWND dialog) {
+void OpenAbout(HWND dialog) {
     LowerInputPanel();
     SetTimer(dialog, animationTimer, framePeriod, nullptr);
     AboutAnimating = 1;
@@ -70,7 +70,7 @@ void RestorePicture(HWND dialog) {
     }
 }
 
-LRESULT HandleCommand(HWND dialog, int command) {
+LRESULT HandleAboutCommand(HWND dialog, int command) {
     if (command != controlAboutClose && command != IDOK) {
         return FALSE;
     }
@@ -81,13 +81,13 @@ LRESULT HandleCommand(HWND dialog, int command) {
 
 LRESULT AboutProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_INITDIALOG: Open(dialog); return TRUE;
+        case WM_INITDIALOG: OpenAbout(dialog); return TRUE;
         case WM_TIMER: Animate(dialog); return TRUE;
         case WM_LBUTTONUP: HandleTap(dialog, lParam); return TRUE;
         case WM_ACTIVATE: RestorePicture(dialog); return TRUE;
         case WM_CTLCOLORBTN:
         case WM_CTLCOLORDLG: return reinterpret_cast<LRESULT>(GetStockObject(WHITE_BRUSH));
-        case WM_COMMAND: return HandleCommand(dialog, LOWORD(wParam));
+        case WM_COMMAND: return HandleAboutCommand(dialog, LOWORD(wParam));
         default: return FALSE;
     }
 }

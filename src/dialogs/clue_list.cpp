@@ -47,7 +47,7 @@ void AddTabs(HWND tabs) {
     SendMessageW(tabs, TCM_INSERTITEM, downTab, reinterpret_cast<LPARAM>(&item));
 }
 
-void Open(HWND dialog) {
+void OpenClueList(HWND dialog) {
     HWND tabs = GetDlgItem(dialog, controlClueTabs);
     AddTabs(tabs);
     ClueListTab = acrossTab;
@@ -89,7 +89,7 @@ void ChooseClue(HWND dialog) {
     CloseDialogBox(dialog);
 }
 
-void HandleCommand(HWND dialog, int control, int notification) {
+void HandleClueListCommand(HWND dialog, int control, int notification) {
     if (control == controlClues && notification == LBN_SELCHANGE) {
         ChooseClue(dialog);
     } else if (control == IDOK) {
@@ -105,9 +105,9 @@ void HandleNotice(HWND dialog, const NMHDR& notice) {
 
 LRESULT ClueListProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_INITDIALOG: Open(dialog); return TRUE;
+        case WM_INITDIALOG: OpenClueList(dialog); return TRUE;
         case WM_NOTIFY: HandleNotice(dialog, *reinterpret_cast<const NMHDR*>(lParam)); return TRUE;
-        case WM_COMMAND: HandleCommand(dialog, LOWORD(wParam), HIWORD(wParam)); return TRUE;
+        case WM_COMMAND: HandleClueListCommand(dialog, LOWORD(wParam), HIWORD(wParam)); return TRUE;
         default: return FALSE;
     }
 }

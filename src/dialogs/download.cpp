@@ -52,7 +52,7 @@ void SaveLinkList(HWND dialog) {
     WriteLinks(links);
 }
 
-void Open(HWND dialog) {
+void OpenDownload(HWND dialog) {
     headingFont = MakeBoldFont(dialog, controlDownloadHeading);
     SetControlFont(dialog, controlDownloadHeading, headingFont);
     LoadLinkList(dialog);
@@ -120,7 +120,7 @@ void SaveAndClose(HWND dialog) {
     EndDialog(dialog, 1);
 }
 
-LRESULT HandleCommand(HWND dialog, int control, int notification) {
+LRESULT HandleDownloadCommand(HWND dialog, int control, int notification) {
     switch (control) {
         case controlLinks:
             if (notification == LBN_SELCHANGE) {
@@ -139,8 +139,8 @@ LRESULT HandleCommand(HWND dialog, int control, int notification) {
 
 LRESULT DownloadProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     switch (message) {
-        case WM_INITDIALOG: Open(dialog); return TRUE;
-        case WM_COMMAND: return HandleCommand(dialog, LOWORD(wParam), HIWORD(wParam));
+        case WM_INITDIALOG: OpenDownload(dialog); return TRUE;
+        case WM_COMMAND: return HandleDownloadCommand(dialog, LOWORD(wParam), HIWORD(wParam));
         default: return FALSE;
     }
 }

@@ -52,7 +52,7 @@ void TakeSettings(HWND dialog) {
     UpdateMenuChecks();
 }
 
-void Open(HWND dialog) {
+void OpenPreferences(HWND dialog) {
     MakeCaptionsBold(dialog);
     ShowSettings(dialog);
     FillScreen(dialog, wholeScreen);
@@ -78,7 +78,7 @@ LRESULT WhiteBrush() {
     return reinterpret_cast<LRESULT>(GetStockObject(WHITE_BRUSH));
 }
 
-void HandleCommand(HWND dialog, int command) {
+void HandlePreferencesCommand(HWND dialog, int command) {
     switch (command) {
         case controlSquareColor: PickSquareColor(dialog); break;
         case controlBackgroundColor: PickBackgroundColor(dialog); break;
@@ -104,8 +104,8 @@ void FollowInputPanel(HWND dialog, WPARAM wParam, LPARAM lParam) {
 
 LRESULT PreferencesProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_INITDIALOG: Open(dialog); return TRUE;
-        case WM_COMMAND: HandleCommand(dialog, LOWORD(wParam)); return TRUE;
+        case WM_INITDIALOG: OpenPreferences(dialog); return TRUE;
+        case WM_COMMAND: HandlePreferencesCommand(dialog, LOWORD(wParam)); return TRUE;
         case WM_CTLCOLORBTN: return ButtonBrush(dialog, reinterpret_cast<HWND>(lParam));
         case WM_CTLCOLORDLG:
         case WM_CTLCOLORSTATIC: return WhiteBrush();

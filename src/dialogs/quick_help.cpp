@@ -8,12 +8,12 @@
 
 namespace {
 
-void Open(HWND dialog) {
+void OpenQuickHelp(HWND dialog) {
     LowerInputPanel();
     FillScreen(dialog, wholeScreenWithoutMenuBar);
 }
 
-LRESULT HandleCommand(HWND dialog, int command) {
+LRESULT HandleQuickHelpCommand(HWND dialog, int command) {
     switch (command) {
         case controlHelpOpen: OpenHelp(u"OvelQuadrel.htm"); return TRUE;
         case controlHelpClose: CloseDialogBox(dialog); return TRUE;
@@ -24,8 +24,8 @@ LRESULT HandleCommand(HWND dialog, int command) {
 
 LRESULT QuickHelpProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     switch (message) {
-        case WM_INITDIALOG: Open(dialog); return TRUE;
-        case WM_COMMAND: return HandleCommand(dialog, LOWORD(wParam));
+        case WM_INITDIALOG: OpenQuickHelp(dialog); return TRUE;
+        case WM_COMMAND: return HandleQuickHelpCommand(dialog, LOWORD(wParam));
         default: return FALSE;
     }
 }
