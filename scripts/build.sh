@@ -6,11 +6,17 @@ is_configured() {
         grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "build/$1/CMakeCache.txt"
 }
 
+# Warnings, and an include that another source has brought along, stop who develops Quadrel, not who
+# plays it.
+strictly=()
+if [[ -n ${QUADREL_STRICT:-} ]]; then
+    strictly=(-DQUADREL_STRICT=ON -DCMAKE_UNITY_BUILD=OFF)
+fi
+
 build_preset() {
     echo "Building: $1"
     if ! is_configured "$1"; then
-        # Warnings stop who develops Quadrel, not who plays it with a newer compiler.
-        cmake --preset "$1" --fresh -DQUADREL_STRICT="${QUADREL_STRICT:-OFF}" >/dev/null
+        cmake --preset "$1" --fresh "${strictly[@]}" >/dev/null
     fi
     cmake --build --preset "$1"
 }
