@@ -8,7 +8,7 @@ if grep -qsxF VERSION_CODENAME=bookworm /etc/os-release; then
     svg_plugin=libqt6svg6
 fi
 run_packages=("$svg_plugin" fonts-liberation fonts-dejavu-core qt6-wayland ca-certificates)
-test_packages=(libgtest-dev xvfb xdotool openbox imagemagick openssl)
+test_packages=(libgtest-dev xvfb xdotool openbox imagemagick)
 
 missing_packages() {
     local installed package
