@@ -98,10 +98,11 @@ private:
         const bool sparesKeyboard = plain->keyboardUp && Below(3) != 0;
         const int bottom = sparesKeyboard ? 225 : plain->panelUp ? 188 : 268;
         if (Sometimes(3)) {
-            return Within(plain->MiddleOfCell(plain->row, plain->col), bottom);
+            return Within(plain->MiddleOf(plain->selected), bottom);
         }
         if (Sometimes(3)) {
-            POINT corner = plain->MiddleOfCell(Below(plain->Side() + 1), Below(plain->Side() + 1));
+            const POINT corner =
+                plain->MiddleOf({Below(plain->Side() + 1), Below(plain->Side() + 1)});
             const int half = CellSize / 2;
             return Within({corner.x - half + Below(3) - 1, corner.y - half + Below(3) - 1}, bottom);
         }
@@ -146,26 +147,15 @@ private:
         return "key " + std::to_string(key);
     }
 
-    std::string Choose(const std::string& menu, const std::string& scope) {
-        if (menu == "Fill") {
-            plain->Fill(scope);
-        } else if (menu == "Clear") {
-            plain->Clear(scope);
-        } else {
-            plain->Hint(scope);
-        }
-        return menu + " " + scope;
-    }
-
     std::string HoldCell() {
+        static constexpr const char* menus[] = {"Clear", "Fill", "View"};
+        static constexpr const char* scopes[] = {"Letter", "Word", "Puzzle"};
         const POINT point = AnyPoint();
-        const char* menu = std::array{"Clear", "Fill", "View"}[std::size_t(Below(3))];
-        const char* scope = std::array{"Letter", "Word", "Puzzle"}[std::size_t(Below(3))];
-        const ItemPath path{menu, scope};
+        const ItemPath path{menus[Below(3)], scopes[Below(3)]};
         const bool sure = AnswerIfAsked(path);
         EXPECT_TRUE(ChooseFromContext(*handheld, point, path));
         plain->HoldAt(point);
-        return "hold" + At(point) + " " + (sure ? Choose(menu, scope) : "a box");
+        return "hold" + At(point) + " " + GoAlong(path, sure);
     }
 
     std::string ChooseFromMenu() {
@@ -179,7 +169,6 @@ private:
             {mainMenu, {"Clear", "Letter"}},
             {mainMenu, {"Clear", "Word"}},
             {mainMenu, {"Clear", "Puzzle"}},
-            {mainMenu, {"Puzzle Info"}},
             {hintMenu, {"Current Letter"}},
             {hintMenu, {"Current Word"}},
             {hintMenu, {"Entire Puzzle"}},
@@ -187,25 +176,18 @@ private:
             {sizeMenu, {"Medium"}},
             {sizeMenu, {"Large"}},
         };
-        const auto& [button, path] = items[Below(static_cast<int>(std::size(items)))];
+        const auto& [button, path] = items[Below(std::size(items))];
         const bool sure = AnswerIfAsked(path);
         EXPECT_TRUE(ChooseFromBar(*handheld, button, path));
-        const std::string last = path.last().toStdString();
-        if (!sure || last == "Puzzle Info") {
-            return "a box";
+        return GoAlong(path, sure);
+    }
+
+    std::string GoAlong(const ItemPath& path, bool sure) {
+        const std::string item = path.join("/").toStdString();
+        if (sure) {
+            plain->Choose(item);
         }
-        if (button == sizeMenu) {
-            plain->ChooseSize(last == "Small" ? 0 : last == "Medium" ? 1 : 2);
-        } else if (button == hintMenu) {
-            plain->Hint(last.substr(last.find(' ') + 1));
-        } else if (last == "Numbers") {
-            plain->ToggleNumbers();
-        } else if (last == "Auto Skip") {
-            plain->ToggleAutoSkip();
-        } else {
-            Choose(path.first().toStdString(), last);
-        }
-        return path.join("/").toStdString();
+        return item + (sure ? "" : " after all not");
     }
 
     // Clearing the puzzle asks first.

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-
 #include "app/view.h"
+#include "board/drawing_tools.h"
 #include "platform/windows.h"
 #include "play/settings.h"
 #include "resources/ids.h"
@@ -15,73 +13,61 @@ namespace {
 constexpr COLORREF black = RGB(0, 0, 0);
 constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF red = RGB(255, 0, 0);
-constexpr COLORREF bevelGrey = RGB(192, 192, 192);
-constexpr COLORREF wordYellow = RGB(255, 255, 2);
-constexpr COLORREF selectedOrange = RGB(255, 200, 125);
-
-bool Inside(const RECT& inclusive, POINT point) {
-    return point.x >= inclusive.left && point.x <= inclusive.right && point.y >= inclusive.top &&
-           point.y <= inclusive.bottom;
-}
+constexpr COLORREF grey = RGB(192, 192, 192);
+constexpr COLORREF yellow = RGB(255, 255, 2);
+constexpr COLORREF orange = RGB(255, 200, 125);
 
 std::u16string Widen(const std::string& ascii) {
     return {ascii.begin(), ascii.end()};
 }
 
+struct PlainFont {
+    std::u16string face;
+    int height;
+    int weight;
+};
+
 }  // namespace
 
-Canvas::Canvas(int width, int height)
-    : context(CreateCompatibleDC(nullptr)), bitmap(CreateCompatibleBitmap(context, width, height)) {
-    previous = SelectObject(context, bitmap);
-    PatBlt(context, 0, 0, width, height, WHITENESS);
-    SetBkMode(context, TRANSPARENT);
-}
+// A picture to paint on, white at first.
+struct PlainGame::Canvas {
+    Canvas(int width, int height)
+        : context(CreateCompatibleDC(nullptr)),
+          bitmap(CreateCompatibleBitmap(context, width, height)),
+          previous(SelectObject(context, bitmap)) {
+        PatBlt(context, 0, 0, width, height, WHITENESS);
+        SetBkMode(context, TRANSPARENT);
+    }
+    ~Canvas() {
+        SelectObject(context, previous);
+        DeleteDC(context);
+        DeleteObject(bitmap);
+    }
+    void Fill(const RECT& area, COLORREF color, COLORREF outline = black) const {
+        const Owned pen(CreatePen(PS_SOLID, 1, outline));
+        const Owned brush(CreateSolidBrush(color));
+        const Selected usedPen(context, pen);
+        const Selected usedBrush(context, brush);
+        Rectangle(context, area.left, area.top, area.right, area.bottom);
+    }
+    void Line(POINT from, POINT to, COLORREF color) const {
+        const Owned pen(CreatePen(PS_SOLID, 1, color));
+        const Selected usedPen(context, pen);
+        const POINT points[] = {from, to};
+        Polyline(context, points, 2);
+    }
+    void Write(const std::u16string& text, RECT box, const PlainFont& font, UINT format,
+               COLORREF color) const {
+        const Owned created(CreateFontOf(font.face, font.height, font.weight));
+        const Selected usedFont(context, created);
+        SetTextColor(context, color);
+        DrawTextW(context, text.c_str(), -1, &box, format);
+    }
 
-Canvas::~Canvas() {
-    SelectObject(context, previous);
-    DeleteDC(context);
-    DeleteObject(bitmap);
-}
-
-void Canvas::Box(RECT area, COLORREF fill, COLORREF outline) {
-    HPEN pen = CreatePen(PS_SOLID, 1, outline);
-    HBRUSH brush = CreateSolidBrush(fill);
-    HGDIOBJ oldPen = SelectObject(context, pen);
-    HGDIOBJ oldBrush = SelectObject(context, brush);
-    Rectangle(context, area.left, area.top, area.right, area.bottom);
-    SelectObject(context, oldPen);
-    SelectObject(context, oldBrush);
-    DeleteObject(pen);
-    DeleteObject(brush);
-}
-
-void Canvas::Line(POINT from, POINT to, COLORREF color) {
-    HPEN pen = CreatePen(PS_SOLID, 1, color);
-    HGDIOBJ oldPen = SelectObject(context, pen);
-    const POINT points[] = {from, to};
-    Polyline(context, points, 2);
-    SelectObject(context, oldPen);
-    DeleteObject(pen);
-}
-
-void Canvas::Write(const std::u16string& text, RECT box, const Font& font, UINT format,
-                   COLORREF color) {
-    LOGFONTW description;
-    description.lfHeight = font.height;
-    description.lfWeight = font.weight;
-    font.face.copy(description.lfFaceName, LF_FACESIZE - 1);
-    HFONT created = CreateFontIndirectW(&description);
-    HGDIOBJ oldFont = SelectObject(context, created);
-    SetTextColor(context, color);
-    DrawTextW(context, text.c_str(), -1, &box, format);
-    SelectObject(context, oldFont);
-    DeleteObject(created);
-}
-
-void Canvas::CopyFrom(HDC source, RECT target, POINT from) {
-    BitBlt(context, target.left, target.top, target.right - target.left, target.bottom - target.top,
-           source, from.x, from.y, SRCCOPY);
-}
+    HDC context;
+    HBITMAP bitmap;
+    HGDIOBJ previous;
+};
 
 // The first key of each row takes what lies to its left, as far as the row begins; the rows of taps
 // are a pixel lower than the keys.
@@ -104,56 +90,38 @@ std::map<int, PlainKey> AllKeys() {
     return keys;
 }
 
-int KeyAt(POINT point) {
-    static const auto keys = AllKeys();
-    for (const auto& [name, key] : keys) {
-        if (Inside(key.taps, point)) {
-            return name;
-        }
-    }
-    return 0;
-}
-
-POINT MiddleOf(const PlainKey& key) {
-    return {(key.drawn.left + key.drawn.right) / 2, (key.drawn.top + key.drawn.bottom) / 2};
-}
-
 std::string PlainRecord(const std::string& path, const BoardRows& letters,
                         const PlainSettings& settings) {
-    std::string record(4096, '\0');
-    const auto put = [&record](std::size_t at, const std::string& text) {
-        record.replace(at, text.size(), text);
-    };
-    std::string cells;
+    std::string record = path + '\0' + std::to_string(letters.size());
+    record.resize(path.size() + 4);
+    record += std::to_string(letters[0].size());
+    record.resize(path.size() + 7);
     for (const std::string& row : letters) {
-        cells += row;
+        record += row;
     }
-    const std::size_t sizes = path.size() + 1;
-    const std::size_t end = sizes + 6 + cells.size();
-    put(0, path);
-    put(sizes, std::to_string(letters.size()));
-    put(sizes + 3, std::to_string(letters[0].size()));
-    put(sizes + 6, cells);
-    put(end + 1, std::to_string(settings.size));
-    put(end + 3, settings.autoSkip ? "1" : "0");
-    put(end + 5, settings.numbers ? "1" : "0");
-    std::size_t at = end + 7;
+    for (int number : {settings.size, settings.autoSkip ? 1 : 0, settings.numbers ? 1 : 0}) {
+        record += '\0' + std::to_string(number);
+    }
+    record += '\0';
     for (COLORREF color : {settings.letterCells, settings.squares}) {
         for (int part : {GetRValue(color), GetGValue(color), GetBValue(color)}) {
-            put(at, std::to_string(part));
-            at += 4;
+            const std::size_t slot = record.size();
+            record += std::to_string(part);
+            record.resize(slot + 4);
         }
     }
+    record.resize(4096);
     return record;
 }
 
-PlainGame::PlainGame(const BoardRows& puzzle) {
+PlainGame::PlainGame(const BoardRows& puzzle) : screen(std::make_shared<Canvas>(240, 268)) {
     Open(puzzle, EmptyBoard(puzzle));
     StartAgain();
 }
 
 void PlainGame::StartAgain() {
-    row = col = direction = 0;
+    selected = {};
+    direction = 0;
     keyboardUp = panelUp = false;
     LayOut();
     Repaint(false);
@@ -167,7 +135,7 @@ void PlainGame::Open(const BoardRows& puzzle, const BoardRows& restored) {
     for (const PlainWord& word : words) {
         numbers.try_emplace({word.row, word.col}, static_cast<int>(numbers.size()) + 1);
     }
-    row = col = 0;
+    selected = {};
     LayOut();
     Repaint(true);
 }
@@ -189,48 +157,49 @@ int PlainGame::BoardLeft() const {
     return std::max((240 - Side() * CellSide()) / 2, 0);
 }
 
-RECT PlainGame::CellBox(int cellRow, int cellCol) const {
-    const int left = BoardLeft() + cellCol * CellSide();
-    const int top = cellRow * CellSide();
+RECT PlainGame::Box(PlainCell cell) const {
+    const int left = BoardLeft() + cell.col * CellSide();
+    const int top = cell.row * CellSide();
     return {left, top, left + CellSide() + 1, top + CellSide() + 1};
 }
 
-POINT PlainGame::MiddleOfCell(int cellRow, int cellCol) const {
-    const RECT box = CellBox(cellRow, cellCol);
+POINT PlainGame::MiddleOf(PlainCell cell) const {
+    const RECT box = Box(cell);
     return {(box.left + box.right) / 2 - scroll.x, (box.top + box.bottom) / 2 - scroll.y};
 }
 
-char PlainGame::SolutionAt(int cellRow, int cellCol) const {
-    return solution[static_cast<std::size_t>(cellRow)][static_cast<std::size_t>(cellCol)];
+char& PlainGame::Letter(PlainCell cell) {
+    return letters[static_cast<std::size_t>(cell.row)][static_cast<std::size_t>(cell.col)];
 }
 
-char& PlainGame::LetterAt(int cellRow, int cellCol) {
-    return letters[static_cast<std::size_t>(cellRow)][static_cast<std::size_t>(cellCol)];
-}
-
-std::string PlainGame::Letters() const {
-    std::string all;
-    for (const std::string& line : letters) {
-        all += line;
-    }
-    return all;
+char PlainGame::Solution(PlainCell cell) const {
+    return solution[static_cast<std::size_t>(cell.row)][static_cast<std::size_t>(cell.col)];
 }
 
 PlainWord PlainGame::SelectedWord() const {
-    return WordAt(words, row, col, direction);
+    return WordAt(words, selected.row, selected.col, direction);
 }
 
-int PlainGame::NumberAt(int cellRow, int cellCol) const {
-    const auto found = numbers.find({cellRow, cellCol});
-    return found == numbers.end() ? 0 : found->second;
+std::vector<PlainCell> PlainGame::CellsOf(const std::string& scope) const {
+    const PlainWord word = SelectedWord();
+    std::vector<PlainCell> cells;
+    for (int i = 0; i < Side() * Side(); ++i) {
+        const PlainCell cell{i / Side(), i % Side()};
+        if (scope == "Puzzle" || (scope == "Word" && word.Contains(cell.row, cell.col)) ||
+            cell == selected) {
+            cells.push_back(cell);
+        }
+    }
+    return cells;
 }
 
 std::u16string PlainGame::ClueText() const {
     for (std::size_t i = 0; i < words.size(); ++i) {
-        if (words[i].direction == direction && words[i].Contains(row, col)) {
-            return Widen(std::to_string(NumberAt(words[i].row, words[i].col)) +
+        const PlainWord& word = words[i];
+        if (word.direction == direction && word.Contains(selected.row, selected.col)) {
+            return Widen(std::to_string(numbers.at({word.row, word.col})) +
                          (direction == 0 ? " a: " : " d: ") + "Clue " + std::to_string(i) + " (" +
-                         std::to_string(words[i].length) + ")");
+                         std::to_string(word.length) + ")");
         }
     }
     return {};
@@ -242,49 +211,45 @@ void PlainGame::Tap(POINT point) {
     if (point.x < 0 || point.x >= 240 || point.y < 0) {
         return;
     }
-    if (point.y >= ViewHeight()) {
-        if (keyboardUp && point.y >= 225 && point.y < 298) {
-            TapKey(KeyAt(point));
+    if (point.y < ViewHeight()) {
+        if (TapBoard(point, false)) {
+            ShowView();
         }
-    } else if (TapOnBoard(point, false)) {
-        ShowView();
+    } else if (keyboardUp && point.y >= 225) {
+        TapKey(point);
     }
 }
 
 void PlainGame::HoldAt(POINT point) {
     if (point.y < ViewHeight()) {
-        TapOnBoard(point, true);
+        TapBoard(point, true);
     }
     ShowView();
 }
 
 // In Small the left outline, the top one and all beside the board are no part of it.
-bool PlainGame::TapOnBoard(POINT point, bool held) {
-    const int left = BoardLeft();
-    const int boardSide = Side() * CellSide();
-    if (settings.size == 0 &&
-        (point.x <= left || point.x >= left + boardSide || point.y <= 0 || point.y > boardSide)) {
+bool PlainGame::TapBoard(POINT point, bool held) {
+    const int x = point.x - BoardLeft() + scroll.x;
+    const int y = point.y + scroll.y;
+    const int side = Side() * CellSide();
+    if (settings.size == 0 && (x <= 0 || x >= side || y <= 0 || y > side)) {
         return false;
     }
     PaintBoard();
-    const int x = point.x - left + scroll.x;
-    const int y = point.y + scroll.y;
-    for (int i = 0; i < Side() * Side(); ++i) {
-        const int cellRow = i / Side();
-        const int cellCol = i % Side();
-        const int top = cellRow * CellSide();
-        const int start = cellCol * CellSide();
-        if (x >= start && x < start + CellSide() && y >= top && y < top + CellSide()) {
-            if (cellRow == row && cellCol == col && !held) {
-                direction = 1 - direction;
-            }
-            // A cell without both words stays unselected.
-            if (WordAt(words, cellRow, cellCol, 0).length > 1 &&
-                WordAt(words, cellRow, cellCol, 1).length > 1) {
-                row = cellRow;
-                col = cellCol;
-                PaintWord();
-            }
+    for (PlainCell cell : CellsOf("Puzzle")) {
+        const int left = cell.col * CellSide();
+        const int top = cell.row * CellSide();
+        if (x < left || x >= left + CellSide() || y < top || y >= top + CellSide()) {
+            continue;
+        }
+        if (cell == selected && !held) {
+            direction = 1 - direction;
+        }
+        // A cell without both words stays unselected.
+        if (WordAt(words, cell.row, cell.col, 0).length > 1 &&
+            WordAt(words, cell.row, cell.col, 1).length > 1) {
+            selected = cell;
+            PaintWord();
         }
     }
     PaintBar();
@@ -323,16 +288,21 @@ void PlainGame::Drag(POINT from, POINT to) {
     Tap(to);
 }
 
-void PlainGame::TapKey(int key) {
-    PaintKeyboard();
-    if (key == okKey) {
-        ToggleKeyboard();
-        return;
+void PlainGame::TapKey(POINT point) {
+    static const auto keys = AllKeys();
+    int tapped = 0;
+    for (const auto& [name, key] : keys) {
+        const RECT& zone = key.taps;
+        const bool inside = point.x >= zone.left && point.x <= zone.right && point.y >= zone.top &&
+                            point.y <= zone.bottom;
+        tapped = inside ? name : tapped;
     }
-    if (key == eraseKey) {
+    if (tapped == okKey) {
+        ToggleKeyboard();
+    } else if (tapped == eraseKey) {
         Erase();
-    } else if (key != 0) {
-        Enter(key);
+    } else if (tapped != 0) {
+        Enter(tapped);
     }
     ShowView();
 }
@@ -360,40 +330,33 @@ void PlainGame::Press(int key) {
 }
 
 void PlainGame::Enter(int key) {
-    if (SolutionAt(row, col) == '.') {
+    if (Solution(selected) == '.') {
         return;
     }
-    LetterAt(row, col) = static_cast<char>(key);
+    Letter(selected) = static_cast<char>(key);
     PaintBoard();
-    const PlainWord word = SelectedWord();
-    const int rowStep = direction;
-    const int colStep = 1 - direction;
-    const auto isLast = [&](int cellRow, int cellCol) {
-        return cellRow == word.row + rowStep * (word.length - 1) &&
-               cellCol == word.col + colStep * (word.length - 1);
-    };
-    while (!isLast(row, col)) {
-        row += rowStep;
-        col += colStep;
-        if (!settings.autoSkip || LetterAt(row, col) == '-') {
+    const std::vector<PlainCell> word = CellsOf("Word");
+    auto place = std::find(word.begin(), word.end(), selected);
+    while (place + 1 != word.end()) {
+        ++place;
+        if (!settings.autoSkip || Letter(*place) == '-') {
             break;
         }
     }
+    selected = *place;
     PaintWord();
     PaintBar();
 }
 
 void PlainGame::Erase() {
-    if (SolutionAt(row, col) == '.') {
+    if (Solution(selected) == '.') {
         return;
     }
-    LetterAt(row, col) = '-';
+    Letter(selected) = '-';
     PaintBoard();
-    const PlainWord word = SelectedWord();
-    if (row != word.row || col != word.col) {
-        row -= direction;
-        col -= 1 - direction;
-    }
+    const std::vector<PlainCell> word = CellsOf("Word");
+    const auto place = std::find(word.begin(), word.end(), selected);
+    selected = place == word.begin() ? selected : *(place - 1);
     PaintWord();
 }
 
@@ -403,25 +366,23 @@ void PlainGame::Jump(bool forward) {
     std::copy_if(words.begin(), words.end(), std::back_inserter(list),
                  [this](const PlainWord& word) { return word.direction == direction; });
     std::size_t current = 0;
-    while (current < list.size() && !list[current].Contains(row, col)) {
+    while (current < list.size() && !list[current].Contains(selected.row, selected.col)) {
         ++current;
     }
-    if (forward ? current + 1 >= list.size() : current == 0) {
-        row = col = 0;
-        return;
+    selected = {};
+    if (forward ? current + 1 < list.size() : current > 0) {
+        const PlainWord& target = list[forward ? current + 1 : current - 1];
+        selected = {target.row, target.col};
     }
-    const PlainWord& target = list[forward ? current + 1 : current - 1];
-    row = target.row;
-    col = target.col;
 }
 
 // The rules in pixels, one long list.
 void PlainGame::ScrollToWord() {
     const PlainWord word = SelectedWord();
     const int cell = CellSide();
-    const auto showEnd = [cell](auto& position, int view, int last, int selected) {
+    const auto showEnd = [cell](auto& position, int view, int last, int from) {
         const int end = (last + 1) * cell;
-        const bool shows = end > view + position && end - selected * cell < view;
+        const bool shows = end > view + position && end - from * cell < view;
         position = shows ? end - view : position;
         return shows;
     };
@@ -430,6 +391,7 @@ void PlainGame::ScrollToWord() {
             position = first * cell;
         }
     };
+    const auto [row, col] = selected;
     if (direction == 0) {
         if (!showEnd(scroll.x, 240, word.col + word.length - 1, col)) {
             showStart(scroll.x, 240, word.col);
@@ -443,101 +405,67 @@ void PlainGame::ScrollToWord() {
     if (!endShown) {
         showStart(scroll.y, ViewHeight(), word.row);
     }
-    const bool columnShown = showEnd(scroll.x, 240, col, col);
-    if (!endShown && !columnShown) {
+    if (!showEnd(scroll.x, 240, col, col) && !endShown) {
         showStart(scroll.x, 240, col);
     }
 }
 
 // What commands do.
 
-void PlainGame::TurnDirection() {
-    direction = 1 - direction;
-    Repaint(true);
+void PlainGame::Choose(const std::string& item) {
+    const std::string menu = item.substr(0, item.find('/'));
+    const std::string last = item.substr(item.find_last_of("/ ") + 1);
+    if (item == "Toggle/Auto Skip") {
+        settings.autoSkip = !settings.autoSkip;
+    } else if (item == "Small" || item == "Medium" || item == "Large") {
+        ChooseSize(item);
+    } else if (menu == "View" || menu == item) {
+        PaintHint(last);
+    } else {
+        settings.numbers = settings.numbers != (last == "Numbers");
+        for (PlainCell cell : CellsOf(last)) {
+            if (menu == "Fill" || (menu == "Clear" && Solution(cell) != '.')) {
+                Letter(cell) = menu == "Fill" ? Solution(cell) : '-';
+            }
+        }
+        Repaint(true);
+    }
 }
 
-void PlainGame::ChooseSize(int size) {
-    settings.size = size;
-    row = col = 0;
+void PlainGame::ChooseSize(const std::string& name) {
+    settings.size = name == "Small" ? 0 : name == "Medium" ? 1 : 2;
+    selected = {};
     LayOut();
     Repaint(false);
-}
-
-void PlainGame::ToggleNumbers() {
-    settings.numbers = !settings.numbers;
-    Repaint(true);
-}
-
-void PlainGame::ToggleAutoSkip() {
-    settings.autoSkip = !settings.autoSkip;
-}
-
-template <typename Action>
-void PlainGame::ForEachCell(const std::string& scope, const Action& action) {
-    const PlainWord word = SelectedWord();
-    for (int i = 0; i < Side() * Side(); ++i) {
-        const int cellRow = i / Side();
-        const int cellCol = i % Side();
-        if (scope == "Puzzle" || (scope == "Word" && word.Contains(cellRow, cellCol)) ||
-            (cellRow == row && cellCol == col)) {
-            action(cellRow, cellCol);
-        }
-    }
-}
-
-void PlainGame::Fill(const std::string& scope) {
-    ForEachCell(scope, [this](int cellRow, int cellCol) {
-        LetterAt(cellRow, cellCol) = SolutionAt(cellRow, cellCol);
-    });
-    Repaint(true);
-}
-
-void PlainGame::Clear(const std::string& scope) {
-    ForEachCell(scope, [this](int cellRow, int cellCol) {
-        LetterAt(cellRow, cellCol) = SolutionAt(cellRow, cellCol) == '.' ? '.' : '-';
-    });
-    Repaint(true);
-}
-
-void PlainGame::Hint(const std::string& scope) {
-    PaintBoard(scope == "Puzzle");
-    const RECT box = CellBox(row, col);
-    if (scope == "Letter") {
-        board->Box(box, selectedOrange);
-        WriteLetter(row, col, SolutionAt(row, col), red);
-        // It must not run over the neighbour, which is not painted after it.
-        WriteNumber(row, col, RECT{box.left + 1, box.top, box.right - 1, box.bottom - 1});
-    } else if (scope == "Word") {
-        PaintWord(true);
-    }
-    PaintBar();
-    PaintKeyboard();
-    ShowView();
 }
 
 // Neither bevels nor a highlight; wrong letters are red.
 bool PlainGame::Check() {
     bool anyLetter = false;
     bool anyWrong = false;
-    ForEachCell("Puzzle", [&](int cellRow, int cellCol) {
-        const char letter = LetterAt(cellRow, cellCol);
-        const bool wrong = letter != SolutionAt(cellRow, cellCol);
-        board->Box(CellBox(cellRow, cellCol),
-                   letter == '.' ? settings.squares : settings.letterCells);
-        WriteLetter(cellRow, cellCol, letter, wrong ? red : black);
-        WriteNumber(cellRow, cellCol);
+    for (PlainCell cell : CellsOf("Puzzle")) {
+        const char letter = Letter(cell);
+        const bool wrong = letter != Solution(cell);
+        board->Fill(Box(cell), letter == '.' ? settings.squares : settings.letterCells);
+        WriteLetter(cell, letter, wrong ? red : black);
+        WriteNumber(cell, CellSide() / 2);
         anyLetter = anyLetter || (letter != '.' && letter != '-');
         anyWrong = anyWrong || (wrong && letter != '-');
-    });
+    }
     ShowView();
     return !anyWrong || !anyLetter;
+}
+
+void PlainGame::TurnDirection() {
+    direction = 1 - direction;
+    Repaint(true);
 }
 
 void PlainGame::ToggleKeyboard() {
     const int before = ViewHeight();
     if (keyboardUp) {
         keyboardUp = false;
-        LeaveKeyboard(before);
+        LayOutBelow(before);
         return;
     }
     if (panelUp) {
@@ -545,9 +473,7 @@ void PlainGame::ToggleKeyboard() {
     }
     keyboardUp = true;
     if (settings.size == 0) {
-        LayOut();
-        PaintBoard();
-        PaintWord();
+        LayOutBelow(before);
     } else {
         ScrollToWord();
     }
@@ -560,11 +486,12 @@ void PlainGame::TogglePanel() {
     const int before = ViewHeight();
     panelUp = !panelUp;
     keyboardUp = false;
-    LeaveKeyboard(before);
+    LayOutBelow(before);
 }
 
-// Where there is no board above that could move down, it stays.
-void PlainGame::LeaveKeyboard(int viewHeightBefore) {
+// The bottom edge of a larger board stays over the same row; where there is no board above that
+// could move down, the top one does.
+void PlainGame::LayOutBelow(int viewHeightBefore) {
     if (settings.size == 0) {
         LayOut();
         PaintBoard();
@@ -581,89 +508,86 @@ void PlainGame::LeaveKeyboard(int viewHeightBefore) {
 void PlainGame::LayOut() {
     scroll = {0, 0};
     const int side = Side() * CellSide() + 1;
-    board.emplace(std::max(240, side), std::max(268, side));
+    board = std::make_shared<Canvas>(std::max(240, side), std::max(268, side));
 }
 
-void PlainGame::WriteLetter(int cellRow, int cellCol, char letter, COLORREF color) {
+void PlainGame::WriteLetter(PlainCell cell, char letter, COLORREF color) {
     if (letter != '.' && letter != '-') {
-        board->Write(std::u16string(1, static_cast<char16_t>(letter)), CellBox(cellRow, cellCol),
-                     {u"System", CellSide() - 2, 700}, DT_CENTER | DT_VCENTER | DT_SINGLELINE,
-                     color);
+        board->Write(Widen({letter}), Box(cell), {u"System", CellSide() - 2, 700},
+                     DT_CENTER | DT_VCENTER | DT_SINGLELINE, color);
     }
 }
 
-void PlainGame::WriteNumber(int cellRow, int cellCol, std::optional<RECT> box) {
-    const int number = NumberAt(cellRow, cellCol);
-    if (settings.size == 0 || !settings.numbers || number == 0) {
-        return;
+// The box reaches so far beyond the cell's inside.
+void PlainGame::WriteNumber(PlainCell cell, int reach) {
+    const auto number = numbers.find(cell);
+    if (settings.size != 0 && settings.numbers && number != numbers.end()) {
+        const RECT box = Box(cell);
+        const RECT area{box.left + 1, box.top, box.right - 1 + reach, box.bottom - 1 + reach};
+        board->Write(Widen(std::to_string(number->second)), area, {u"Arial", -7, 0}, DT_SINGLELINE,
+                     black);
     }
-    const RECT cell = CellBox(cellRow, cellCol);
-    const int reach = CellSide() + CellSide() / 2;
-    const RECT usual{cell.left + 1, cell.top, cell.left + reach, cell.top + reach};
-    board->Write(Widen(std::to_string(number)), box.value_or(usual), {u"Arial", -7, 0},
-                 DT_SINGLELINE);
 }
 
 void PlainGame::PaintBoard(bool solved) {
     const int whole = std::max(268, Side() * CellSide() + 1);
-    board->Box({0, 0, whole, whole}, white, white);
-    ForEachCell("Puzzle", [&](int cellRow, int cellCol) {
-        const RECT box = CellBox(cellRow, cellCol);
-        if (SolutionAt(cellRow, cellCol) == '.') {
-            board->Box(box, settings.squares);
-            return;
+    board->Fill({0, 0, whole, whole}, white, white);
+    for (PlainCell cell : CellsOf("Puzzle")) {
+        const RECT box = Box(cell);
+        if (Solution(cell) == '.') {
+            board->Fill(box, settings.squares);
+            continue;
         }
-        board->Box(box, settings.letterCells);
-        board->Line({box.left + 1, box.top + 1}, {box.right - 1, box.top + 1}, bevelGrey);
-        board->Line({box.left + 1, box.top + 1}, {box.left + 1, box.bottom - 1}, bevelGrey);
-        WriteLetter(cellRow, cellCol,
-                    solved ? SolutionAt(cellRow, cellCol) : LetterAt(cellRow, cellCol),
-                    solved ? red : black);
-        WriteNumber(cellRow, cellCol);
-    });
-}
-
-// The squares of the whole word come first, and what is written in them after.
-void PlainGame::PaintWord(bool ofSolution) {
-    ForEachCell("Word", [&](int cellRow, int cellCol) {
-        board->Box(CellBox(cellRow, cellCol), wordYellow);
-    });
-    board->Box(CellBox(row, col), selectedOrange);
-    // Of a solution all letters come before the numbers.
-    for (const bool numbersOnly : {false, true}) {
-        ForEachCell("Word", [&](int cellRow, int cellCol) {
-            if (ofSolution && !numbersOnly) {
-                WriteLetter(cellRow, cellCol, SolutionAt(cellRow, cellCol), red);
-            } else if (ofSolution) {
-                WriteNumber(cellRow, cellCol);
-            } else if (!numbersOnly) {
-                WriteLetter(cellRow, cellCol, LetterAt(cellRow, cellCol), black);
-                WriteNumber(cellRow, cellCol);
-            }
-        });
+        const POINT corner{box.left + 1, box.top + 1};
+        board->Fill(box, settings.letterCells);
+        board->Line(corner, {box.right - 1, corner.y}, grey);
+        board->Line(corner, {corner.x, box.bottom - 1}, grey);
+        WriteLetter(cell, solved ? Solution(cell) : Letter(cell), solved ? red : black);
+        WriteNumber(cell, CellSide() / 2);
     }
 }
 
+// The squares of the whole word come before what is written in them.
+void PlainGame::PaintWord(bool solved) {
+    const std::vector<PlainCell> word = CellsOf("Word");
+    for (PlainCell cell : word) {
+        board->Fill(Box(cell), cell == selected ? orange : yellow);
+    }
+    for (PlainCell cell : word) {
+        WriteLetter(cell, solved ? Solution(cell) : Letter(cell), solved ? red : black);
+        WriteNumber(cell, CellSide() / 2);
+    }
+}
+
+void PlainGame::PaintHint(const std::string& scope) {
+    PaintBoard(scope == "Puzzle");
+    if (scope == "Word") {
+        PaintWord(true);
+    } else if (scope == "Letter") {
+        board->Fill(Box(selected), orange);
+        WriteLetter(selected, Solution(selected), red);
+        // It must not run over the neighbour, which is not painted after it.
+        WriteNumber(selected, 0);
+    }
+    PaintBar();
+    PaintKeyboard();
+    ShowView();
+}
+
 void PlainGame::PaintBar() {
-    const int top = (panelUp ? 188 : 268) - (keyboardUp ? 65 : 20);
-    screen.Box({0, top, 240, top + 22}, white, white);
-    screen.Write(ClueText(), {1, top, 239, top + 22}, {u"System", -10, 0}, DT_WORDBREAK);
+    const int top = ViewHeight();
+    screen->Fill({0, top, 240, top + 22}, white, white);
+    screen->Write(ClueText(), {1, top, 239, top + 22}, {u"System", -10, 0}, DT_WORDBREAK, black);
 }
 
 void PlainGame::PaintKeyboard() {
     if (keyboardUp) {
-        HDC context = CreateCompatibleDC(nullptr);
-        HBITMAP picture = LoadBitmapW(&programResources, bitmapKeyboard);
-        HGDIOBJ previous = SelectObject(context, picture);
-        screen.CopyFrom(context, {0, 225, 240, 269}, {0, 0});
-        SelectObject(context, previous);
-        DeleteDC(context);
-        DeleteObject(picture);
+        DrawPicture(screen->context, bitmapKeyboard, {0, 225, 240, 269});
     }
 }
 
 void PlainGame::ShowView() {
-    screen.CopyFrom(board->context, {0, 0, 240, ViewHeight()}, scroll);
+    BitBlt(screen->context, 0, 0, 240, ViewHeight(), board->context, scroll.x, scroll.y, SRCCOPY);
 }
 
 void PlainGame::Repaint(bool highlighted) {
@@ -678,14 +602,19 @@ void PlainGame::Repaint(bool highlighted) {
 
 void PlainGame::ExpectSame(Handheld& handheld) const {
     ASSERT_TRUE(handheld.Running());
+    std::string entered;
+    for (const std::string& row : letters) {
+        entered += row;
+    }
     ASSERT_EQ(std::string(PlayerGrid, static_cast<std::size_t>(PuzzleWidth * PuzzleHeight)),
-              Letters());
-    ASSERT_EQ((std::array{CursorRow, CursorCol, Direction}), (std::array{row, col, direction}));
-    ASSERT_EQ((std::array{ScrollX, ScrollY}), (std::array{int{scroll.x}, int{scroll.y}}));
+              entered);
+    ASSERT_EQ(std::tuple(CursorRow, CursorCol, Direction),
+              std::tuple(selected.row, selected.col, direction));
+    ASSERT_EQ(std::tuple(ScrollX, ScrollY, KeyboardVisible),
+              std::tuple(int{scroll.x}, int{scroll.y}, int{keyboardUp}));
     const int size = Magnification.Large == 1 ? 2 : Magnification.Medium;
     ASSERT_TRUE(settings == (PlainSettings{size, AutoSkip == 1, ShowNumbers == 1, BackgroundColor,
                                            SquareColor}));
-    ASSERT_EQ(KeyboardVisible == 1, keyboardUp);
     const QImage shown = handheld.Client();
-    ASSERT_EQ(shown, ImageOf(screen.context).copy(shown.rect()));
+    ASSERT_EQ(shown, ImageOf(screen->context).copy(shown.rect()));
 }

@@ -2,40 +2,13 @@
 // by cell, everything painted by itself. Only the handheld's drawing is shared with the program.
 #pragma once
 
-#include <QtGui/QImage>
 #include <map>
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "platform/drawing.h"
 #include "support/boards.h"
 #include "support/handheld.h"
-
-// A picture of its own to paint on, white at first.
-class Canvas {
-public:
-    Canvas(int width, int height);
-    ~Canvas();
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
-
-    void Box(RECT area, COLORREF fill, COLORREF outline = RGB(0, 0, 0));
-    void Line(POINT from, POINT to, COLORREF color);
-    struct Font {
-        std::u16string face;
-        int height;
-        int weight;
-    };
-    void Write(const std::u16string& text, RECT box, const Font& font, UINT format,
-               COLORREF color = RGB(0, 0, 0));
-    void CopyFrom(HDC source, RECT target, POINT from);
-
-    HDC context;
-
-private:
-    HBITMAP bitmap;
-    HGDIOBJ previous;
-};
 
 // Every key of the on-screen keyboard, by its letter: where it is drawn and what counts as it.
 // Right and bottom are inclusive.
@@ -46,9 +19,6 @@ struct PlainKey {
 constexpr int eraseKey = '<';
 constexpr int okKey = '!';
 std::map<int, PlainKey> AllKeys();
-// 0 where there is none.
-int KeyAt(POINT point);
-POINT MiddleOf(const PlainKey& key);
 
 // Written into every record.
 struct PlainSettings {
@@ -64,6 +34,12 @@ struct PlainSettings {
 std::string PlainRecord(const std::string& path, const BoardRows& letters,
                         const PlainSettings& settings);
 
+struct PlainCell {
+    int row = 0;
+    int col = 0;
+    auto operator<=>(const PlainCell&) const = default;
+};
+
 class PlainGame {
 public:
     // The program has just started with that puzzle, whose clues are those of PuzzleBytes.
@@ -71,74 +47,66 @@ public:
 
     void StartAgain();
     void Open(const BoardRows& puzzle, const BoardRows& restored);
-
     void Tap(POINT point);
     void Drag(POINT from, POINT to);
-    // Also a tap-and-hold; the menu that opens then is not part of it.
+    // A tap-and-hold; the menu that opens then is not part of it.
     void HoldAt(POINT point);
     void Press(int key);
-
-    void TurnDirection();
-    void ChooseSize(int size);
-    void ToggleNumbers();
-    void ToggleAutoSkip();
-    // "Letter", "Word" or "Puzzle".
-    void Fill(const std::string& scope);
-    void Clear(const std::string& scope);
-    void Hint(const std::string& scope);
+    // An item of a menu, like "Fill/Word".
+    void Choose(const std::string& item);
     // True when something is said.
     bool Check();
+    void TurnDirection();
     void ToggleKeyboard();
     void TogglePanel();
 
-    POINT MiddleOfCell(int cellRow, int cellCol) const;
+    void ExpectSame(Handheld& handheld) const;
+    POINT MiddleOf(PlainCell cell) const;
     int Side() const;
     int ViewHeight() const;
-    std::string Letters() const;
-    void ExpectSame(Handheld& handheld) const;
 
     BoardRows letters;
     PlainSettings settings;
-    int row = 0;
-    int col = 0;
-    int direction = 0;
-    POINT scroll;
+    PlainCell selected;
     bool keyboardUp = false;
     bool panelUp = false;
 
 private:
     int CellSide() const;
     int BoardLeft() const;
-    RECT CellBox(int cellRow, int cellCol) const;
-    char SolutionAt(int cellRow, int cellCol) const;
-    char& LetterAt(int cellRow, int cellCol);
+    RECT Box(PlainCell cell) const;
+    char& Letter(PlainCell cell);
+    char Solution(PlainCell cell) const;
     PlainWord SelectedWord() const;
-    int NumberAt(int cellRow, int cellCol) const;
+    std::vector<PlainCell> CellsOf(const std::string& scope) const;
     std::u16string ClueText() const;
 
-    bool TapOnBoard(POINT point, bool held);
-    void TapKey(int key);
+    bool TapBoard(POINT point, bool held);
+    void TapKey(POINT point);
     void Enter(int key);
     void Erase();
     void Jump(bool forward);
     void ScrollToWord();
     void LayOut();
-    void LeaveKeyboard(int viewHeightBefore);
+    void LayOutBelow(int viewHeightBefore);
+    void ChooseSize(const std::string& name);
 
-    template <typename Action>
-    void ForEachCell(const std::string& scope, const Action& action);
-    void WriteLetter(int cellRow, int cellCol, char letter, COLORREF color);
-    void WriteNumber(int cellRow, int cellCol, std::optional<RECT> box = std::nullopt);
+    void WriteLetter(PlainCell cell, char letter, COLORREF color);
+    void WriteNumber(PlainCell cell, int reach);
     void PaintBoard(bool solved = false);
-    void PaintWord(bool ofSolution = false);
+    void PaintWord(bool solved = false);
+    void PaintHint(const std::string& scope);
     void PaintBar();
     void PaintKeyboard();
     void ShowView();
     void Repaint(bool highlighted);
 
+    struct Canvas;
     BoardRows solution;
     std::vector<PlainWord> words;
-    std::map<std::pair<int, int>, int> numbers;  // by the cells that start words
-    std::optional<Canvas> board;
-    Canvas screen{240, 268};
+    std::map<PlainCell, int> numbers;
+    int direction = 0;
+    POINT scroll;
+    std::shared_ptr<Canvas> board;
+    std::shared_ptr<Canvas> screen;
 };
