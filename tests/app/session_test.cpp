@@ -60,21 +60,15 @@ protected:
                   (Messages{Question(std::u16string(name.begin(), name.end()))}));
     }
     static bool IsEmpty() {
-        return PlayerLetters() == [] {
-            std::string empty(SolutionGrid, PlayerLetters().size());
-            std::replace_if(
-                empty.begin(), empty.end(), [](char cell) { return cell != '.'; }, '-');
-            return empty;
-        }();
+        const std::string solution(SolutionGrid, PlayerLetters().size());
+        return PlayerLetters() == EmptyBoard({solution})[0];
     }
     // Everything that a player would miss.
     static std::string Present() {
-        std::string path;
-        for (const WCHAR* unit = CurrentPuzzlePath; *unit != 0; ++unit) {
-            path += static_cast<char>(*unit);
-        }
-        return path + PlayerLetters() + std::string(SolutionGrid, PlayerLetters().size()) +
-               TitleText + ClueTable[1] + std::to_string(CursorCol);
+        const std::u16string_view path(CurrentPuzzlePath);
+        return std::string(path.begin(), path.end()) + PlayerLetters() +
+               std::string(SolutionGrid, PlayerLetters().size()) + TitleText + ClueTable[1] +
+               std::to_string(CursorCol);
     }
 
     TemporaryHome home;
