@@ -92,19 +92,21 @@ private:
         return Below(chances) == 0;
     }
 
-    // Often in the selected cell or at the edges of a cell.
+    // Often in the selected cell, at the edges of a cell or on a key.
     POINT AnyPoint() {
         // The flash of a key takes its time, so that most points lie above the keyboard.
-        const bool sparesKeyboard = plain->keyboardUp && Below(3) != 0;
-        const int bottom = sparesKeyboard ? 225 : plain->panelUp ? 188 : 268;
+        const int bottom = plain->keyboardUp ? 225 : plain->panelUp ? 188 : 268;
+        if (plain->keyboardUp && Sometimes(5)) {
+            return {Sometimes(4) ? 220 : Below(240), Sometimes(4) ? 260 : 225 + Below(43)};
+        }
         if (Sometimes(3)) {
             return Within(plain->MiddleOf(plain->selected), bottom);
         }
         if (Sometimes(3)) {
-            const POINT corner =
+            const POINT middle =
                 plain->MiddleOf({Below(plain->Side() + 1), Below(plain->Side() + 1)});
             const int half = CellSize / 2;
-            return Within({corner.x - half + Below(3) - 1, corner.y - half + Below(3) - 1}, bottom);
+            return Within({middle.x - half + Below(3) - 1, middle.y - half + Below(3) - 1}, bottom);
         }
         return {Below(240), Below(bottom)};
     }

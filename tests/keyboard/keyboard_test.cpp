@@ -69,6 +69,7 @@ TEST_F(Keyboard, KeysFlashWhereTheyAreDrawn) {
         const int beyond = name == okKey ? 1 : 0;
         EXPECT_EQ(FlashOf(middle), QRect(QPoint(key.drawn.left + 1, key.drawn.top + 1),
                                          QPoint(key.drawn.right - beyond, key.drawn.bottom - 1)));
+        EXPECT_EQ(KeyboardVisible, name == okKey ? 0 : 1);
     }
 }
 

@@ -107,7 +107,7 @@ TEST_F(PuzzleFile, CutAtEveryByte) {
             continue;
         }
         Open(cut);
-        EXPECT_EQ(std::string("T\nA\nC").rfind(std::string(TitleText).substr(0, 1), 0), 0U);
+        EXPECT_EQ(std::strchr(TitleText, 'o'), nullptr);
         for (std::size_t clue = 0; clue < maxClues; ++clue) {
             const std::string expected = clue < 4 ? texts[3 + clue] : "";
             EXPECT_EQ(expected.rfind(ClueTable[clue], 0), 0U) << clue << ": " << ClueTable[clue];
