@@ -67,7 +67,8 @@ TEST_F(Input, ATremblingHandHoldsAndAMovingOneDrags) {
         << "a release after a drag is a tap";
 }
 
-// Faults: the end waits behind the menu that the hold opens, or is forgotten.
+// Faults: the end waits behind the menu that the hold opens, or is forgotten; the release that the
+// window has not seen is taken for that of the next tap.
 TEST_F(Input, AskedToEndDuringAHoldTheProgramEnds) {
     TakeOpenedMenus();
     handheld->PutDown({100, 100});
@@ -75,18 +76,9 @@ TEST_F(Input, AskedToEndDuringAHoldTheProgramEnds) {
     handheld->Settle();
     EXPECT_FALSE(handheld->Running());
     EXPECT_EQ(TakeOpenedMenus(), 0);
-}
-
-// The stylus means the same logical pixel however large the host's window is.
-TEST_F(Input, TapsFindTheirCellAtEveryMagnification) {
-    for (double magnification : {1.37, 3.0, 1.0}) {
-        handheld->Resize(magnification);
-        for (int row : {0, 11}) {
-            SelectCell(4, 4, 0);
-            handheld->TapCell(row, 9);
-            EXPECT_EQ(std::pair(CursorRow, CursorCol), std::pair(row, 9)) << magnification;
-        }
-    }
+    Restart();
+    handheld->TapCell(0, 2);
+    EXPECT_EQ(CursorCol, 2);
 }
 
 }  // namespace

@@ -143,23 +143,18 @@ TEST_F(Session, FilesThatCannotBePlayedLeaveThePuzzleInPlay) {
     }
 }
 
-TEST_F(Session, AFileThatGoesDuringTheQuestionLeavesThePuzzleInPlay) {
+// A file may go while the question is open. Closing the window answers it with No and saves.
+TEST_F(Session, WhatHappensDuringTheQuestionCostsNoLetters) {
     handheld->Type("XYZ");
     const std::string letters = PlayerLetters();
     DoDuringNextMessageBox([this] { Remove("second.puz"); });
     Open("second.puz");
     EXPECT_EQ(PlayerLetters(), letters);
-}
-
-// Closing the window answers the open question with No and saves.
-TEST_F(Session, ClosingDuringTheQuestionEndsTheProgramWithItsState) {
-    handheld->Type("XYZ");
     DoDuringNextMessageBox([] { Host().close(); });
     Choose("second.puz", 0);
     TakeShownMessages();
     EXPECT_FALSE(handheld->Running());
     EXPECT_NE(ReadBytes(home.stateFile()).find("XYZ.--"), std::string::npos);
-    EXPECT_FALSE(std::filesystem::exists(home.documents() / "first.dat"));
 }
 
 // A folder with a puzzle's name and a file that is none are no puzzles, either.
@@ -202,18 +197,6 @@ TEST_F(Session, WithoutAnyPuzzleEverythingIsTakenCalmly) {
     PutFile("second.puz", PuzzleBytes(otherBoard));
     Open("second.puz");
     EXPECT_TRUE(IsEmpty());
-}
-
-TEST_F(Session, StateFilesFromElsewhereDoNoHarm) {
-    handheld.reset();
-    const std::string good = PlainRecord(firstPath, BoardRows(6, "ABCDEF"), {});
-    for (const std::string& state : {std::string(), std::string("\\"), std::string(4096, '9'),
-                                     std::string(4096, '\0'), good.substr(0, 40), good}) {
-        WriteBytes(home.stateFile(), state);
-        Start();
-        EXPECT_TRUE(IsEmpty());
-        handheld.reset();
-    }
 }
 
 TEST_F(Session, EveryWayOfEndingWritesTheState) {

@@ -110,20 +110,6 @@ TEST_F(Progress, ARecordCutAnywhereGivesWhatItHolds) {
     }
 }
 
-TEST_F(Progress, RandomBytesAreHarmless) {
-    std::mt19937 random(1);
-    for (int round = 0; round < 500; ++round) {
-        std::string record = SmallRecord();
-        for (auto change = random() % 20; change > 0; --change) {
-            record[random() % (gridEnd + 31)] = static_cast<char>(random());
-        }
-        Load(record);
-        ASSERT_EQ(Magnification.Small + Magnification.Medium + Magnification.Large, 1);
-        ASSERT_TRUE(PuzzleHeight >= 1 && PuzzleHeight <= 40 && PuzzleWidth >= 1);
-        ASSERT_LE(PuzzleWidth, 40);
-    }
-}
-
 TEST_F(Progress, TheLongestPathAndTheLargestBoardSurvive) {
     const std::u16string longest = u"\\" + std::u16string(MAX_PATH - 2, u'\u6F22');
     ASSERT_TRUE(CopyPath(longest, CurrentPuzzlePath));

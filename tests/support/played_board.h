@@ -41,7 +41,6 @@ inline const BoardRows squareBoard = {
 inline constexpr MagnificationFlags smallSize{1, 0, 0};
 inline constexpr MagnificationFlags mediumSize{0, 1, 0};
 inline constexpr MagnificationFlags largeSize{0, 0, 1};
-inline constexpr MagnificationFlags sizes[] = {smallSize, mediumSize, largeSize};
 
 // Every word has the clue "Clue " and its index; files of boards with other sides are made too.
 inline std::string PuzzleBytes(const BoardRows& rows, const std::string& title = "Title") {
