@@ -1,6 +1,7 @@
 #include "model/numbering.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
 
 #include "model/puzzle.h"
 
@@ -61,11 +62,15 @@ void NumberCell(const Board& board, int row, int col, Numbering& next) {
 
 // A word is as long as it has cells; nothing depends on the order of the list.
 void ComputeLengths(WordList words, std::int32_t CellRecord::*clue) {
+    std::array<std::int32_t, 2 * maxCells> lengths{};  // by clue: a cell begins two words at most
+    for (const CellRecord* cell = Cells; cell != Cells + CellCount(); ++cell) {
+        if (cell->*clue != -1) {
+            ++lengths[static_cast<std::size_t>(cell->*clue)];
+        }
+    }
     for (WordRecord& word : words) {
         if (word.clueIndex != -1) {
-            word.length = static_cast<std::int32_t>(std::count_if(
-                Cells, Cells + CellCount(),
-                [&](const CellRecord& cell) { return cell.*clue == word.clueIndex; }));
+            word.length = lengths[static_cast<std::size_t>(word.clueIndex)];
         }
     }
 }
