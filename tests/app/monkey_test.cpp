@@ -129,7 +129,11 @@ private:
         const POINT from = AnyPoint();
         const int bottom = plain->panelUp ? 188 : 268;
         POINT to{Below(300) - 30, Below(bottom) - 30};
-        if (Sometimes(4)) {
+        if (Sometimes(3)) {
+            // By whole cells, or a pixel beside, where a comparison that is not strict shows.
+            to = {from.x + (Below(9) - 4) * CellSize + Below(3) - 1,
+                  from.y + (Below(9) - 4) * CellSize + Below(3) - 1};
+        } else if (Sometimes(4)) {
             to = {from.x + Below(11) - 5, from.y + Below(11) - 5};
         } else if (Sometimes(4)) {
             to = {Below(2) * 239, Below(2) * (plain->ViewHeight() - 1)};

@@ -140,8 +140,10 @@ TEST_F(PuzzleFile, TextsWithoutEndNotesAndForeignSectionsStayHarmless) {
 }
 
 TEST_F(PuzzleFile, TakesTheLargestBoardsAndRefusesWhatTheModelCannotHold) {
-    Open(PuzzleOfBoard(ManyAcrossWords(23), {}).Bytes());
-    EXPECT_EQ(AcrossList[298].length, 2);
+    BoardRows threeHundred = ManyAcrossWords(23);
+    threeHundred[39].replace(0, 2, "AA");
+    Open(PuzzleOfBoard(threeHundred, {}).Bytes());
+    EXPECT_EQ(AcrossList[299].length, 2);
     Open(PuzzleOfBoard(FourHundredWords("A"), {}).Bytes());
     EXPECT_EQ(AcrossList[199].clueIndex, 399);
     Open(PuzzleOfBoard(BoardRows(40, std::string(40, 'Q')), {"T", "A", "C"}).Bytes());
