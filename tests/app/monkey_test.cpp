@@ -97,14 +97,15 @@ private:
         // The flash of a key takes its time, so that most points lie above the keyboard.
         const int bottom = plain->keyboardUp ? 225 : plain->panelUp ? 188 : 268;
         if (plain->keyboardUp && Sometimes(5)) {
-            return {Sometimes(4) ? 220 : Below(240), Sometimes(4) ? 260 : 225 + Below(43)};
+            const int upTo = Sometimes(3) ? 4 : 43;
+            return {Sometimes(4) ? 220 : Below(240), Sometimes(4) ? 260 : 225 + Below(upTo)};
         }
         if (Sometimes(3)) {
             return Within(plain->MiddleOf(plain->selected), bottom);
         }
         if (Sometimes(3)) {
-            const POINT middle =
-                plain->MiddleOf({Below(plain->Side() + 1), Below(plain->Side() + 1)});
+            const int row = Sometimes(3) ? plain->Side() : Below(plain->Side());
+            const POINT middle = plain->MiddleOf({row, Below(plain->Side() + 1)});
             const int half = CellSize / 2;
             return Within({middle.x - half + Below(3) - 1, middle.y - half + Below(3) - 1}, bottom);
         }
