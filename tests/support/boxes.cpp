@@ -6,9 +6,9 @@
 #include <QtWidgets/QColorDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <deque>
 #include <ostream>
@@ -33,10 +33,6 @@ std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
 std::function<void()> duringNextBox;
 
-QMessageBox::StandardButton ButtonFor(int answer) {
-    return answer == IDYES ? QMessageBox::Yes : answer == IDNO ? QMessageBox::No : QMessageBox::Ok;
-}
-
 template <typename Value>
 Value TakeNext(std::deque<Value>& planned, Value otherwise) {
     if (planned.empty()) {
@@ -47,15 +43,17 @@ Value TakeNext(std::deque<Value>& planned, Value otherwise) {
     return next;
 }
 
-void Answer(QMessageBox* box) {
+// A box's text is its last label; its buttons are named by their answers.
+void Answer(QDialog* box) {
     // Without the breaks that a box puts into long lines.
-    const QString text = box->text().remove(QChar(QChar::LineSeparator));
+    const QString text =
+        box->findChildren<QLabel*>().last()->text().remove(QChar(QChar::LineSeparator));
     shownMessages.push_back({text.toStdU16String(), box->windowTitle().toStdU16String()});
     if (duringNextBox) {
         std::exchange(duringNextBox, nullptr)();
     }
     const int answer = TakeNext(plannedAnswers, 0);
-    if (QAbstractButton* button = answer == 0 ? nullptr : box->button(ButtonFor(answer))) {
+    if (auto* button = box->findChild<QPushButton*>(QString::number(answer))) {
         button->click();
     } else {
         box->close();
@@ -97,12 +95,12 @@ public:
 
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Show) {
-            if (auto* box = qobject_cast<QMessageBox*>(object)) {
-                QTimer::singleShot(0, box, [box] { Answer(box); });
-            } else if (auto* dialog = qobject_cast<QFileDialog*>(object)) {
+            if (auto* dialog = qobject_cast<QFileDialog*>(object)) {
                 QTimer::singleShot(0, dialog, [dialog] { Answer(dialog); });
             } else if (auto* colors = qobject_cast<QColorDialog*>(object)) {
                 QTimer::singleShot(0, colors, [colors] { Answer(colors); });
+            } else if (auto* box = qobject_cast<QDialog*>(object)) {
+                QTimer::singleShot(0, box, [box] { Answer(box); });
             } else if (auto* menu = qobject_cast<QMenu*>(object)) {
                 QTimer::singleShot(0, menu, [menu] { Answer(menu); });
             }

@@ -19,8 +19,8 @@ QPushButton:hover { background: @hover; }
 QPushButton:pressed { background: @pressed; }
 QPushButton:focus { border-width: 2lp; }
 
-QMessageBox { background: white; }
-QMessageBox QPushButton { font-family: "Liberation Sans"; font-size: 10lp; min-width: 44lp;
+QDialog { background: white; }
+QDialog QPushButton { font-family: "Liberation Sans"; font-size: 10lp; min-width: 44lp;
     min-height: 14lp; padding: 1lp 4lp; margin-left: 6lp; }
 
 QGroupBox { border: 1lp solid @edge; border-radius: 3lp; margin-top: 6lp; }

@@ -1,14 +1,16 @@
-// Message boxes: the toolkit's own, sized with the screen.
+// Message boxes, from the toolkit's parts: its own box breaks texts and places signs for the sizes
+// of a desktop.
 #include <QtGui/QFontMetrics>
-#include <QtGui/QIcon>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -32,8 +34,8 @@ int Magnified(int length) {
     return qRound(length * ScreenMagnification());
 }
 
-// The toolkit's own icons come in a few sizes, the largest too small for a large screen.
-QIcon Badge(const QString& sign) {
+// The toolkit's own signs come in a few sizes, the largest too small for a large screen.
+QPixmap Badge(const QString& sign) {
     const double ratio = Host().devicePixelRatioF();
     const int side = qRound(Magnified(iconSide) * ratio);
     QPixmap badge(side, side);
@@ -51,72 +53,18 @@ QIcon Badge(const QString& sign) {
     return badge;
 }
 
-class BoxStyle : public QProxyStyle {
-public:
-    BoxStyle() : QProxyStyle("Fusion") {
-    }
-    int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                    const QWidget* widget) const override {
-        switch (metric) {
-            case PM_MessageBoxIconSize: return Magnified(iconSide);
-            case PM_LayoutLeftMargin:
-            case PM_LayoutTopMargin:
-            case PM_LayoutRightMargin:
-            case PM_LayoutBottomMargin: return Magnified(margin);
-            case PM_LayoutHorizontalSpacing: return 0;
-            case PM_LayoutVerticalSpacing: return Magnified(margin / 2);
-            default: return QProxyStyle::pixelMetric(metric, option, widget);
-        }
-    }
-    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
-                       const QWidget* widget) const override {
-        switch (icon) {
-            case SP_MessageBoxQuestion: return Badge("?");
-            case SP_MessageBoxInformation: return Badge("i");
-            default: return QProxyStyle::standardIcon(icon, option, widget);
-        }
-    }
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-        return hint == SH_DialogButtonBox_ButtonsHaveIcons
-                   ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
-
-// The same look as in the program's own dialogs.
-void Dress(QMessageBox& box) {
-    static auto* style = new BoxStyle;
-    box.setStyle(style);
-    box.setPalette(DialogPalette());
-    box.setStyleSheet(DialogStyleSheet(ScreenMagnification()));
-}
-
-bool HasIcon(const QMessageBox& box) {
-    return box.icon() != QMessageBox::NoIcon;
-}
-
-// What the toolkit lets a box have of the desktop.
-int WidestBox(int desktop) {
-    constexpr int smallDesktop = 1024;
-    return desktop <= smallDesktop ? desktop : std::min(desktop - 480, 1000);
-}
-
 // A box is no wider than the game's screen, unless that leaves nothing to read.
-int TextWidth(const QMessageBox& box) {
+int TextWidth(const QWidget& box, int sign) {
     constexpr int least = 230;
-    const int widest = std::max(WidestBox(box.screen()->size().width()), least);
-    const int width = std::clamp(Magnified(screenWidth), least, widest);
-    const int icon = HasIcon(box) ? Magnified(iconSide + iconGap) : 0;
-    return width - 2 * Magnified(margin) - icon;
+    const int desktop = std::max(box.screen()->availableSize().width(), least);
+    return std::clamp(Magnified(screenWidth), least, desktop) - 2 * Magnified(margin) - sign;
 }
 
 // A desktop cuts the title of a box that has only room for a few words.
-int WidthForTitle(const QMessageBox& box) {
+int WidthForTitle(const QWidget& box, int sign) {
     constexpr int desktopsButtons = 120;
     const int title = QFontMetrics(QApplication::font()).horizontalAdvance(box.windowTitle());
-    const int icon = HasIcon(box) ? Magnified(iconSide + iconGap) : 0;
-    return title + desktopsButtons - 2 * Magnified(margin) - icon;
+    return title + desktopsButtons - 2 * Magnified(margin) - sign;
 }
 
 struct BrokenText {
@@ -124,7 +72,7 @@ struct BrokenText {
     double width = 0;  // of its longest line
 };
 
-// The toolkit breaks lines only where the desktop is too small for them.
+// A label breaks lines between words only, and paths can be wider than the screen.
 BrokenText BreakLines(const QString& text, const QFont& font, double width) {
     QTextOption anywhereIfNeeded;
     anywhereIfNeeded.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -147,58 +95,90 @@ BrokenText BreakLines(const QString& text, const QFont& font, double width) {
     return broken;
 }
 
-// The toolkit has a gap of its own before the text, even where there is no icon, and gives room
-// that is left to the icon.
-void Arrange(const QMessageBox& box) {
-    auto* grid = qobject_cast<QGridLayout*>(box.layout());
-    const int gap = HasIcon(box) ? 1 : 0;
-    QLayoutItem* item = grid == nullptr ? nullptr : grid->itemAtPosition(0, gap);
-    if (item != nullptr && item->spacerItem() != nullptr) {
-        item->spacerItem()->changeSize(HasIcon(box) ? Magnified(iconGap) : 0, 1);
-        grid->setColumnStretch(gap + 1, 1);
+class Box : public QDialog {
+public:
+    // Before the screen is shown, the middle of the host's screen is the place for a box.
+    Box(const QString& title, UINT style) : QDialog(Host().isVisible() ? &Host() : nullptr) {
+        setWindowTitle(title);
+        setStyle(DialogStyle());
+        setPalette(DialogPalette());
+        setStyleSheet(DialogStyleSheet(ScreenMagnification()));
+        const int space = Magnified(margin);
+        rows->setContentsMargins(space, space, space, space);
+        rows->setSpacing(space);
+        rows->setSizeConstraint(QLayout::SetFixedSize);
+        message->setSpacing(Magnified(iconGap));
+        rows->addLayout(message);
+        rows->addLayout(buttons);
+        buttons->setSpacing(0);
+        buttons->addStretch();
+        if ((style & (MB_ICONQUESTION | MB_ICONINFORMATION)) != 0) {
+            AddSign((style & MB_ICONQUESTION) != 0 ? "?" : "i");
+        }
     }
-}
 
-// The toolkit breaks the text again in a box of 500 pixels. A short one stands beside the middle of
-// the icon.
-void SetText(QMessageBox& box, const QString& text) {
-    const BrokenText broken = BreakLines(text, ModalFont(), TextWidth(box));
-    box.setText(broken.text);
-    if (auto* label = box.findChild<QLabel*>("qt_msgbox_label")) {
-        const int width = static_cast<int>(std::ceil(broken.width));
-        label->setIndent(0);
-        label->setMinimumWidth(std::max(width, WidthForTitle(box)));
-        label->setMinimumHeight(HasIcon(box) ? Magnified(iconSide) : 0);
+    void AddText(const QString& text) {
+        const BrokenText broken = BreakLines(text, ModalFont(), TextWidth(*this, signWidth));
+        auto* label = new QLabel(broken.text);
+        // Titles of puzzles and file names come from elsewhere and are never markup.
+        label->setTextFormat(Qt::PlainText);
+        label->setFont(ModalFont());
+        label->setMinimumWidth(
+            std::max(static_cast<int>(std::ceil(broken.width)), WidthForTitle(*this, signWidth)));
+        message->addWidget(label, 1);
     }
-}
 
-QMessageBox::Icon IconOf(UINT style) {
-    if ((style & MB_ICONQUESTION) != 0) {
-        return QMessageBox::Question;
+    // Named by its answer.
+    void AddButton(const QString& caption, int answer, bool isDefault) {
+        auto* button = new QPushButton(caption);
+        button->setObjectName(QString::number(answer));
+        connect(button, &QPushButton::clicked, this, [this, answer] { done(answer); });
+        buttons->addWidget(button);
+        if (isDefault) {
+            button->setDefault(true);
+            button->setFocus();
+        }
     }
-    return (style & MB_ICONINFORMATION) != 0 ? QMessageBox::Information : QMessageBox::NoIcon;
-}
+
+protected:
+    // The letter of a caption presses its button with Alt, and without.
+    void keyPressEvent(QKeyEvent* event) override {
+        for (auto* button : findChildren<QPushButton*>()) {
+            if (button->shortcut() == QKeySequence(Qt::ALT | Qt::Key(event->key()))) {
+                button->click();
+                return;
+            }
+        }
+        QDialog::keyPressEvent(event);
+    }
+
+private:
+    void AddSign(const QString& sign) {
+        auto* label = new QLabel;
+        label->setPixmap(Badge(sign));
+        message->addWidget(label, 0, Qt::AlignTop);
+        signWidth = Magnified(iconSide + iconGap);
+    }
+
+    QVBoxLayout* rows = new QVBoxLayout(this);
+    QHBoxLayout* message = new QHBoxLayout;
+    QHBoxLayout* buttons = new QHBoxLayout;
+    int signWidth = 0;
+};
 
 }  // namespace
 
 int MessageBoxW(HWND, const WCHAR* text, const WCHAR* title, UINT style) {
-    const bool question = (style & MB_YESNO) != 0;
-    // Before the screen is shown, the middle of the host's screen is the place for a box.
-    QMessageBox box(Host().isVisible() ? &Host() : nullptr);
-    box.setWindowTitle(QString::fromUtf16(title));
-    // Titles of puzzles and file names come from elsewhere and are never markup.
-    box.setTextFormat(Qt::PlainText);
-    box.setIcon(IconOf(style));
-    Dress(box);
-    Arrange(box);
-    SetText(box, QString::fromUtf16(text));
-    box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    if (question) {
-        box.setDefaultButton((style & MB_DEFBUTTON2) != 0 ? QMessageBox::No : QMessageBox::Yes);
-    }
-    const int answer = RunModal(box);
-    if (!question) {
+    Box box(QString::fromUtf16(title), style);
+    box.AddText(QString::fromUtf16(text));
+    if ((style & MB_YESNO) == 0) {
+        box.AddButton("OK", IDOK, true);
+        RunModal(box);
         return IDOK;
     }
-    return answer == QMessageBox::Yes ? IDYES : IDNO;
+    const bool noIsDefault = (style & MB_DEFBUTTON2) != 0;
+    box.AddButton("&Yes", IDYES, !noIsDefault);
+    box.AddButton("&No", IDNO, noIsDefault);
+    // A box that is closed otherwise is answered with no.
+    return RunModal(box) == IDYES ? IDYES : IDNO;
 }
