@@ -29,7 +29,7 @@ const BoardRows lookalikeBoard = {
 };
 
 const ShownMessage success = {u"Puzzle file  downloaded successfully!", u"Download"};
-const ShownMessage noPuzzle = {u"Not a valid puzzle file, please check the URL.", u"Error"};
+const ShownMessage notAPuzzle = {u"Not a valid puzzle file, please check the URL.", u"Error"};
 
 ShownMessage Error(const std::u16string& text) {
     return {text, u"Error"};
@@ -126,7 +126,7 @@ TEST_F(Downloading, FailuresAreToldAndStoreNothing) {
     EXPECT_EQ(Download("/a.puz", {{Page(puzzle)}}), 0);
     networkModuleName = usual;
     ExpectMessages({Error(u"InternetOpenUrl Error: 2ee6"), Error(u"InternetOpenUrl Error: 2efd"),
-                    Error(u"InternetReadFile Error: 2eff"), noPuzzle,
+                    Error(u"InternetReadFile Error: 2eff"), notAPuzzle,
                     Error(u"The network cannot be used: 7e")});
     EXPECT_EQ(Stored(), std::vector<fs::path>());
     EXPECT_TRUE(TakeShownChoosers().empty());
@@ -143,7 +143,7 @@ TEST_F(Downloading, WhatIsNoSquarePuzzleIsRefused) {
          {std::string(1, 'x'), puzzle.substr(0, 44), puzzle.substr(0, 45), WithSizes(puzzle, 0, 0),
           WithSizes(puzzle, 6, 0), WithSizes(puzzle, 0, 6), WithSizes(puzzle, 15, 21)}) {
         EXPECT_EQ(Download("/a.puz", {{Page(bytes)}}), 0);
-        ExpectMessages({noPuzzle});
+        ExpectMessages({notAPuzzle});
     }
     EXPECT_TRUE(TakeShownChoosers().empty());
 }
