@@ -8,13 +8,12 @@
 #include "platform/windows.h"
 
 std::unique_ptr<QApplication> BringHandheldUp(int& argumentCount, char** arguments) {
-    WarmUpFonts();
     // A whole device pixel ratio leaves every edge on a device pixel; the screen's own
     // magnification takes care of the rest.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);
     auto application = std::make_unique<QApplication>(argumentCount, arguments);
-    WarmUpFontDatabase();
+    WarmUpFonts();
     QApplication::setApplicationName("Quadrel");
     QApplication::setDesktopFileName("quadrel");
     QApplication::setQuitOnLastWindowClosed(false);
