@@ -1,7 +1,6 @@
 #include "dialogs/about.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QElapsedTimer>
+#include <QtTest/QTest>
 
 #include "dialogs/about_drawing.h"
 #include "platform/qt/window/window.h"
@@ -19,22 +18,7 @@ protected:
         UseDialog(
             *handheld, [this] { handheld->PressButton("About Quadrel"); }, use);
     }
-    // The host's time does not pass meanwhile.
-    void Tick() {
-        SendMessageW(TopWindow(), WM_TIMER, 101, 0);
-    }
-    void Wait(int milliseconds) {
-        QElapsedTimer clock;
-        clock.start();
-        while (clock.elapsed() < milliseconds) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        }
-    }
 };
-
-std::vector<int> Pieces() {
-    return {LogoPieces[0], LogoPieces[1], LogoPieces[2]};
-}
 
 // What is drawn in the area of the frame stays where it is in the picture, which may add to it. The
 // edges of curves may differ by a trace.
@@ -55,16 +39,18 @@ void ExpectKept(const QImage& frame, const QImage& picture, const QRect& area) {
     EXPECT_EQ(changed, 0) << area.x() << ", " << area.y();
 }
 
+// The host's time does not pass meanwhile.
 TEST_F(About, ThePiecesSlideToWhereTheLogoOfThePictureIs) {
-    Use([this](OpenDialog& dialog) {
+    Use([](OpenDialog& dialog) {
         for (int step = 1; step <= 18; ++step) {
-            Tick();
-            EXPECT_EQ(Pieces(), (std::vector<int>{std::min(2 * step, 22), std::min(4 * step, 72),
-                                                  std::max(240 - 3 * step, 192)}));
+            SendMessageW(TopWindow(), WM_TIMER, 101, 0);
+            EXPECT_EQ(std::vector<int>(LogoPieces, LogoPieces + 3),
+                      (std::vector<int>{std::min(2 * step, 22), std::min(4 * step, 72),
+                                        std::max(240 - 3 * step, 192)}));
             EXPECT_EQ(AboutAnimating, 1);
         }
         const QImage lastFrame = dialog.Drawn();
-        Tick();
+        SendMessageW(TopWindow(), WM_TIMER, 101, 0);
         EXPECT_EQ(AboutAnimating, 0);
         const QImage picture = dialog.Drawn();
         ExpectKept(lastFrame, picture, {22, 102, 62, 91});
@@ -73,70 +59,52 @@ TEST_F(About, ThePiecesSlideToWhereTheLogoOfThePictureIs) {
     });
 }
 
-TEST_F(About, ATapSkipsToThePictureAndASecondOpeningPlaysAgain) {
+TEST_F(About, PlaysByItselfEachTimeUntilATapOrItsEnd) {
+    QImage picture;
     for (int opening = 0; opening < 2; ++opening) {
-        Use([this](OpenDialog& dialog) {
-            EXPECT_EQ(Pieces(), (std::vector<int>{0, 0, 240}));
-            Tick();
+        Use([&](OpenDialog& dialog) {
+            EXPECT_EQ(LogoPieces[0], 0);
+            EXPECT_TRUE(QTest::qWaitFor([] { return LogoPieces[0] > 2; }));
             dialog.TapAt(100, 190);
             EXPECT_EQ(AboutAnimating, 0);
-            EXPECT_TRUE(dialog.IsOpen());
-            const QImage picture = dialog.Drawn();
-            Wait(80);
+            EXPECT_TRUE(dialog.IsOpen()) << "the tap opens no link";
+            picture = dialog.Drawn();
+            QTest::qWait(60);
             EXPECT_EQ(dialog.Drawn(), picture);
         });
     }
-}
-
-TEST_F(About, TheTimerPlaysItAndEndsWithTheBox) {
-    Use([this](OpenDialog& dialog) {
-        Wait(200);
-        EXPECT_GT(LogoPieces[0], 0);
-        dialog.Tap(controlAboutClose);
-        EXPECT_FALSE(dialog.IsOpen());
-        EXPECT_EQ(AboutAnimating, 1);
-    });
-    const std::vector<int> atTheEnd = Pieces();
+    Use([](OpenDialog& dialog) { dialog.Tap(controlAboutClose); });
     const QImage screen = handheld->Screen();
-    Wait(120);
-    EXPECT_EQ(Pieces(), atTheEnd);
+    QTest::qWait(60);
+    EXPECT_EQ(LogoPieces[0], 0) << "the timer ends with the box";
     EXPECT_EQ(handheld->Screen(), screen);
 }
 
-struct Corner {
-    POINT inside;
-    POINT outside;
-    const char* opens;
-};
-
-// The four corners of the three areas: left and top edges belong to them, right and bottom do not.
-constexpr Corner corners[] = {
-    {{65, 187}, {64, 187}, "contact_us"},
-    {{177, 197}, {178, 197}, "contact_us"},
-    {{65, 197}, {65, 198}, "contact_us"},
-    {{177, 187}, {177, 186}, "contact_us"},
-    {{44, 202}, {43, 202}, "trademarks_copyrights"},
-    {{195, 212}, {196, 212}, "trademarks_copyrights"},
-    {{44, 212}, {44, 213}, "trademarks_copyrights"},
-    {{195, 202}, {195, 201}, "trademarks_copyrights"},
-    {{188, 228}, {189, 228}, "http://www.quadrel.example.com"},
-    {{188, 228}, {188, 229}, "http://www.quadrel.example.com"},
-    {{70, 221}, {70, 220}, "http://www.quadrel.example.com"},
-};
-
+// Left and top edges belong to them, right and bottom do not; the button covers a corner of one.
 TEST_F(About, LinksOpenInsideTheirAreasOnly) {
+    constexpr std::pair<RECT, const char*> links[] = {
+        {{65, 187, 178, 198}, "contact_us"},
+        {{44, 202, 196, 213}, "trademarks_copyrights"},
+        {{52, 221, 189, 229}, "http://www.quadrel.example.com"},
+    };
     OpenedPages pages;
     Use([&](OpenDialog& dialog) {
-        dialog.TapAt(100, 190);
-        EXPECT_EQ(pages.Take(), std::vector<std::string>());
-        for (const Corner& corner : corners) {
-            dialog.TapAt(corner.outside.x, corner.outside.y);
-            EXPECT_EQ(pages.Take(), std::vector<std::string>()) << corner.outside.x;
-            dialog.TapAt(corner.inside.x, corner.inside.y);
-            const std::vector<std::string> opened = pages.Take();
-            ASSERT_EQ(opened.size(), 1u) << corner.inside.x;
-            EXPECT_NE(opened[0].find(corner.opens), std::string::npos) << opened[0];
+        const auto opened = [&](LONG x, LONG y) {
+            dialog.TapAt(x, y);
             EXPECT_TRUE(dialog.IsOpen());
+            const auto shown = pages.Take();
+            return shown.empty() ? "" : shown.back();
+        };
+        EXPECT_EQ(opened(100, 190), "") << "it was the end of the show";
+        for (const auto& [area, page] : links) {
+            const auto& [left, top, right, bottom] = area;
+            for (POINT in : {POINT{left, top}, {right - 1, top}, {right - 1, bottom - 1}}) {
+                EXPECT_NE(opened(in.x, in.y).find(page), std::string::npos) << in.x << ", " << in.y;
+            }
+            for (POINT out : {POINT{left - 1, top}, {left, top - 1}, {right, top}}) {
+                EXPECT_EQ(opened(out.x, out.y), "") << out.x << ", " << out.y;
+            }
+            EXPECT_EQ(opened(right - 1, bottom), "");
         }
     });
 }

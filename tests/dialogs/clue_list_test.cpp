@@ -1,6 +1,5 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QScrollBar>
-#include <algorithm>
 
 #include "app/view.h"
 #include "platform/dialogs.h"
@@ -10,7 +9,6 @@
 
 namespace {
 
-constexpr const char* clueListButton = "Open the clue list";
 constexpr int across = 0;
 constexpr int down = 1;
 
@@ -33,88 +31,98 @@ const BoardRows manyNumbers = {
 class ClueList : public PlayedBoard {
 protected:
     void Start(const BoardRows& rows, MagnificationFlags size = smallSize) {
-        Open(PuzzleBytes(rows));
         Play(rows, size);
         SelectCell(1, 1, 0);
     }
-    void Open(const std::string& bytes) {
-        WriteBytes(home.documents() / "listed.puz", bytes);
-        OpenPuzzle(home.documents() / "listed.puz");
-    }
     void Use(const std::function<void(OpenDialog&)>& use) {
         UseDialog(
-            *handheld, [this] { handheld->PressButton(clueListButton); }, use);
+            *handheld, [this] { handheld->PressButton("Open the clue list"); }, use);
     }
     void ExpectSelection(int row, int col, int direction) {
         EXPECT_EQ(std::tuple(CursorRow, CursorCol, Direction), std::tuple(row, col, direction));
+        EXPECT_EQ(ClueChosen, 0);
     }
 };
 
-TEST_F(ClueList, LinesStandBelowEachOtherAndTellTheirTabsApart) {
-    std::vector<std::string> texts = {"Title", "Author", "Copyright"};
-    for (size_t i = 0; i < WordsOf(manyNumbers).size(); ++i) {
-        texts.push_back("Clue");
+// The words of one direction and their lines, numbered by going along.
+std::vector<std::pair<PlainWord, std::string>> ExpectedLines(int direction) {
+    std::vector<std::pair<PlainWord, std::string>> lines;
+    int number = 0;
+    int clue = 0;
+    const PlainWord* before = nullptr;
+    const std::vector<PlainWord> words = WordsOf(manyNumbers);
+    for (const PlainWord& word : words) {
+        const bool sharesStart = before && before->row == word.row && before->col == word.col;
+        number += sharesStart ? 0 : 1;
+        const std::string text = clue++ == 0 ? "Café “quoted”" : "Clue";
+        if (word.direction == direction) {
+            lines.push_back({word, std::to_string(number) + (number < 10 ? ".  " : ". ") + text +
+                                       (direction == down ? "  (" : " (") +
+                                       std::to_string(word.length) + ")"});
+        }
+        before = &word;
     }
-    texts[3] = "Caf\xE9 \x93quoted\x94";
-    Open(PuzzleOfBoard(manyNumbers, texts).Bytes());
-    SelectCell(0, 0, down);
-    Use([](OpenDialog& dialog) {
-        EXPECT_EQ(dialog.Title(), "Quadrel Clues");
-        const std::vector<std::string> lines = dialog.Lines(controlClues);
-        EXPECT_EQ(lines[0], "1.  Café “quoted” (4)");
-        EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
-        EXPECT_TRUE(dialog.HasFocus(controlClues));
-        EXPECT_NE(std::find(lines.begin(), lines.end(), "11. Clue (4)"), lines.end());
-        dialog.TapTab(controlClueTabs, down);
-        const std::vector<std::string> downLines = dialog.Lines(controlClues);
-        ASSERT_GE(downLines.size(), 10u);
-        EXPECT_EQ(downLines[8], "9.  Clue  (4)");
-        EXPECT_EQ(downLines[9], "10. Clue  (4)");
-    });
+    return lines;
 }
 
-TEST_F(ClueList, TappingALineShowsTheFirstCellOfItsWordAtOnce) {
-    Start(manyNumbers, largeSize);
+TEST_F(ClueList, EveryLineOfBothTabsStandsForItsWord) {
+    std::vector<std::string> texts(3 + WordsOf(manyNumbers).size(), "Clue");
+    texts[3] = "Caf\xE9 \x93quoted\x94";
+    WriteBytes(home.documents() / "a.puz", PuzzleOfBoard(manyNumbers, texts).Bytes());
+    OpenPuzzle(home.documents() / "a.puz");
+    Magnification = largeSize;
+    ComputeLayout(MainWindow);
     for (int direction : {across, down}) {
-        int line = 0;
-        for (const PlainWord& word : WordsOf(manyNumbers)) {
-            if (word.direction != direction) {
-                continue;
-            }
+        const auto expected = ExpectedLines(direction);
+        for (int line = 0; line < static_cast<int>(expected.size()); ++line) {
             Use([&](OpenDialog& dialog) {
+                EXPECT_EQ(dialog.Lines(controlClues).size(), ExpectedLines(across).size());
+                dialog.Press(Qt::Key_Down);
                 dialog.TapTab(controlClueTabs, direction);
+                EXPECT_EQ(dialog.SelectedLine(controlClues), direction == down ? -1 : 0);
+                EXPECT_TRUE(dialog.HasFocus(controlClues) || direction == across);
+                const auto lines = dialog.Lines(controlClues);
+                ASSERT_EQ(lines.size(), expected.size());
+                EXPECT_EQ(lines[static_cast<std::size_t>(line)], expected[line].second);
                 dialog.TapLine(controlClues, line);
                 EXPECT_FALSE(dialog.IsOpen());
             });
+            const PlainWord& word = expected[line].first;
             ExpectSelection(word.row, word.col, direction);
             EXPECT_LE((word.row + 1) * CellSize, ScrollY + ViewHeight) << "it is scrolled to";
-            EXPECT_EQ(ClueChosen, 0);
             ExpectFullRepaint();
-            ++line;
         }
     }
 }
 
-TEST_F(ClueList, ArrowsOnlyMoveAndEnterOrSpaceTakesTheLine) {
-    Start(squareBoard);
+TEST_F(ClueList, KeysGoAlongTheLinesAndEnterOrSpaceTakesOne) {
+    Start(manyNumbers);
     for (int key : {int(Qt::Key_Return), int(Qt::Key_Space)}) {
         Use([&](OpenDialog& dialog) {
-            dialog.Press(Qt::Key_Down);
+            EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
+            EXPECT_TRUE(dialog.HasFocus(controlClues));
+            auto* list = dialog.Find<QListWidget>(controlClues);
+            dialog.Press(Qt::Key_Right);
+            EXPECT_GT(list->horizontalScrollBar()->value(), 0);
+            dialog.Press(Qt::Key_Left);
+            EXPECT_EQ(list->horizontalScrollBar()->value(), 0);
+            dialog.Press(Qt::Key_End);
+            EXPECT_EQ(list->currentRow(), list->count() - 1);
+            dialog.Press(Qt::Key_Home);
             dialog.Press(Qt::Key_Down);
             EXPECT_TRUE(dialog.IsOpen());
-            EXPECT_EQ(dialog.SelectedLine(controlClues), 1);
             dialog.Press(key);
             EXPECT_FALSE(dialog.IsOpen());
         });
-        ExpectSelection(0, 4, across);
+        ExpectSelection(0, 5, across);
         SelectCell(1, 1, 0);
     }
 }
 
-TEST_F(ClueList, LiftingTheStylusOutsideTheListChoosesNothing) {
+TEST_F(ClueList, ClosingOrLiftingTheStylusElsewhereChoosesNothing) {
     Start(manyNumbers);
     Use([](OpenDialog& dialog) {
-        auto* list = qobject_cast<QListWidget*>(dialog.Widget(controlClues));
+        auto* list = dialog.Find<QListWidget>(controlClues);
         const QPointF line = list->visualItemRect(list->item(1)).center();
         const QPointF hiddenLine = list->visualItemRect(list->item(list->count() - 1)).center();
         const double middle = list->viewport()->height() / 2.0;
@@ -124,59 +132,15 @@ TEST_F(ClueList, LiftingTheStylusOutsideTheListChoosesNothing) {
             dialog.Drag(list->viewport(), line, place);
             EXPECT_TRUE(dialog.IsOpen());
         }
+        dialog.Tap(commandClose);
+        EXPECT_FALSE(dialog.IsOpen());
     });
     ExpectSelection(1, 1, across);
-}
-
-TEST_F(ClueList, KeysReachTheLastLineAndTheEndsOfLongLines) {
-    Start(manyNumbers);
     Use([](OpenDialog& dialog) {
-        auto* list = qobject_cast<QListWidget*>(dialog.Widget(controlClues));
-        dialog.Press(Qt::Key_Right);
-        EXPECT_GT(list->horizontalScrollBar()->value(), 0);
-        dialog.Press(Qt::Key_Left);
-        EXPECT_EQ(list->horizontalScrollBar()->value(), 0);
-        EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
-        dialog.Press(Qt::Key_End);
-        EXPECT_EQ(dialog.SelectedLine(controlClues), list->count() - 1);
+        dialog.Press(Qt::Key_Return);
+        EXPECT_FALSE(dialog.IsOpen()) << "nothing is selected";
     });
-}
-
-TEST_F(ClueList, NothingIsChosenByClosing) {
-    Start(squareBoard);
-    SelectCell(3, 2, down);
-    const std::function<void(OpenDialog&)> ways[] = {
-        [](OpenDialog& dialog) { dialog.Press(Qt::Key_Return); },
-        [](OpenDialog& dialog) { dialog.Press(Qt::Key_Escape); },
-        [](OpenDialog& dialog) {
-            dialog.Press(Qt::Key_Down);
-            dialog.Tap(commandClose);
-        },
-    };
-    for (const auto& way : ways) {
-        Use([&](OpenDialog& dialog) {
-            way(dialog);
-            EXPECT_FALSE(dialog.IsOpen());
-        });
-        ExpectSelection(3, 2, down);
-        EXPECT_EQ(ClueChosen, 0);
-    }
-}
-
-TEST_F(ClueList, ATabIsFilledAnewEachTime) {
-    Start(squareBoard);
-    Use([](OpenDialog& dialog) {
-        const std::vector<std::string> acrossLines = dialog.Lines(controlClues);
-        dialog.Press(Qt::Key_Down);
-        dialog.TapTab(controlClueTabs, down);
-        EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
-        EXPECT_TRUE(dialog.HasFocus(controlClues));
-        EXPECT_NE(dialog.Lines(controlClues), acrossLines);
-        dialog.TapTab(controlClueTabs, across);
-        EXPECT_EQ(dialog.Lines(controlClues), acrossLines);
-    });
-    Use([](OpenDialog& dialog) { dialog.TapTab(controlClueTabs, down); });
-    Use([](OpenDialog& dialog) { EXPECT_EQ(dialog.Lines(controlClues)[0], "1.  Clue 0 (3)"); });
+    ExpectSelection(1, 1, across);
 }
 
 TEST_F(ClueList, APuzzleWithoutWordsHasNothingToChoose) {

@@ -1,67 +1,162 @@
+// The download dialog, its list of links, and what becomes of what is downloaded.
+#include <QtCore/QTimer>
+#include <QtWidgets/QLineEdit>
+#include <optional>
+
 #include "platform/dialogs.h"
 #include "platform/qt/host/host_window.h"
+#include "platform/qt/network/network_module.h"
+#include "platform/qt/network/waiting.h"
+#include "platform/qt/window/end_request.h"
 #include "resources/ids.h"
-#include "support/downloads.h"
+#include "storage/paths.h"
+#include "support/dialogs.h"
+#include "support/menus.h"
+#include "support/no_space.h"
 #include "support/played_board.h"
 #include "support/web_server.h"
 
 namespace {
 
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
 using Links = std::vector<std::string>;
+using Files = std::map<std::string, std::string>;
+using Messages = std::vector<ShownMessage>;
 
 const std::string defaultLink = "http://www.example.com/daily/puzzles/today.puz";
+const ShownMessage success = {u"Puzzle file  downloaded successfully!", u"Download"};
 
-class DownloadDialog : public PlayedBoard {
+Messages Error(const std::u16string& text) {
+    return {{text, u"Error"}};
+}
+const Messages notAPuzzle = Error(u"Not a valid puzzle file, please check the URL.");
+
+// As real files have it: after the sizes the number of clues and two small numbers, each in two
+// bytes, low one first.
+std::string Titled(const BoardRows& rows, const std::string& title) {
+    return PuzzleBytes(rows, title).replace(heightOffset + 1, 6, "\x0C\0\1\0\0\0"s);
+}
+
+std::string WithSizes(std::string puzzle, int width, int height) {
+    puzzle[widthOffset] = static_cast<char>(width);
+    puzzle[heightOffset] = static_cast<char>(height);
+    return puzzle;
+}
+
+class Downloads : public PlayedBoard {
 protected:
+    Downloads() {
+        fs::create_directories(folder);
+        TakeShownChoosers();
+    }
+    ~Downloads() override {
+        ForgetPlans();
+        TakeShownChoosers();
+    }
     void Use(const std::function<void(OpenDialog&)>& use) {
-        UseDownloadDialog(*handheld, use);
+        UseDialog(
+            *handheld,
+            [this] {
+                ChooseFromBar(*handheld, "Main Menu", {"Puzzles", "Download"});
+            },
+            use);
     }
-    std::filesystem::path ListFile() const {
-        return home.programFolder() / "quadrelhttplist.dat";
-    }
-    void Keep(const std::string& bytes) {
-        WriteBytes(ListFile(), bytes);
-    }
-    // What the dialog shows of a file, and what its OK writes then.
-    Links Shown() {
-        Links links;
-        Use([&](OpenDialog& dialog) { links = dialog.Lines(controlLinks); });
-        return links;
-    }
-    void PressOk() {
-        Use([](OpenDialog& dialog) {
-            dialog.Tap(controlKeepLinks);
-            EXPECT_FALSE(dialog.IsOpen());
+    // What the player is told about that link, which is listed from then on when all went well.
+    Messages ToldAbout(const std::string& link) {
+        TakeShownMessages();
+        bool listed = false;
+        Use([&](OpenDialog& dialog) {
+            dialog.Type(controlLink, QString::fromStdString(link));
+            dialog.Tap(controlGet);
+            listed = dialog.IsOpen() && dialog.Lines(controlLinks).back() == link;
         });
+        const Messages messages = TakeShownMessages();
+        EXPECT_EQ(listed, !messages.empty() && messages.back() == success);
+        return messages;
     }
+    Messages Told(const WebAnswer& answer) {
+        server.Put("/a.puz", answer);
+        return ToldAbout(server.Link("/a.puz"));
+    }
+    void Plan(const fs::path& chosen, std::initializer_list<int> answers) {
+        ForgetPlans();
+        ChooseNextFile(chosen);
+        std::for_each(answers.begin(), answers.end(), AnswerNextMessageBox);
+    }
+    // To the suggested name; an existing file is replaced.
+    Messages Store(const WebAnswer& answer) {
+        Plan(asSuggested, {IDYES, IDYES});
+        return Told(answer);
+    }
+    static ShownMessage Question(const std::u16string& name) {
+        return {u"Save file at this location: \\My Documents\\Quadrel Puzzles\\" + name,
+                u"Confirm"};
+    }
+    Files Stored() const {
+        Files files;
+        for (const auto& entry : fs::directory_iterator(folder)) {
+            files[entry.path().filename()] = entry.is_directory() ? "" : ReadBytes(entry.path());
+        }
+        return files;
+    }
+    void KeepLinks(const Links& links) {
+        std::string bytes;
+        for (const std::string& link : links) {
+            bytes.append(link).push_back('\0');
+        }
+        WriteBytes(linkFile, bytes);
+    }
+    void ExpectKept(const Links& links) {
+        const std::string bytes = ReadBytes(linkFile);
+        KeepLinks(links);
+        EXPECT_EQ(bytes, ReadBytes(linkFile));
+    }
+
+    WebServer server;
+    fs::path linkFile = home.programFolder() / "quadrelhttplist.dat";
+    fs::path folder = home.documents() / "Quadrel Puzzles";
+    std::string puzzle = Titled(squareBoard, "The Sunday Puzzle No. 12");
 };
 
-std::string Bytes(const Links& links) {
-    std::string bytes;
-    for (const std::string& link : links) {
-        bytes.append(link).push_back('\0');
-    }
-    return bytes;
-}
-
-TEST_F(DownloadDialog, OnlyOkKeepsTheLinksAsTheyAreShown) {
-    EXPECT_EQ(Shown(), Links{defaultLink});
-    EXPECT_FALSE(std::filesystem::exists(ListFile())) << "the title bar's OK keeps nothing";
-    PressOk();
-    EXPECT_EQ(ReadBytes(ListFile()), Bytes({defaultLink}));
+TEST_F(Downloads, OnlyOkKeepsTheLinksAsTheyAreShown) {
+    Use([](OpenDialog& dialog) { EXPECT_EQ(dialog.Lines(controlLinks), Links{defaultLink}); });
+    EXPECT_FALSE(fs::exists(linkFile)) << "the title bar's OK keeps nothing";
     const Links links = {"http://b.example/caf\xC3\xA9.puz", "http://a.example/1.puz", "x"};
-    Keep(Bytes(links));
-    EXPECT_EQ(Shown(), links);
-    PressOk();
-    EXPECT_EQ(ReadBytes(ListFile()), Bytes(links));
+    KeepLinks(links);
+    const auto deleteSecond = [](OpenDialog& dialog, int answer) {
+        dialog.TapLine(controlLinks, 1);
+        AnswerNextMessageBox(answer);
+        dialog.Tap(controlDeleteLink);
+    };
+    Use([&](OpenDialog& dialog) {
+        EXPECT_EQ(dialog.Lines(controlLinks), links);
+        dialog.Tap(controlDeleteLink);
+        EXPECT_EQ(TakeShownMessages(), Messages()) << "nothing is selected";
+        deleteSecond(dialog, IDNO);
+        EXPECT_EQ(dialog.Lines(controlLinks), links);
+        EXPECT_EQ(TakeShownMessages(), (Messages{{u"Delete Link ?", u"New Game"}}));
+        deleteSecond(dialog, IDYES);
+        EXPECT_EQ(dialog.Lines(controlLinks), (Links{links[0], links[2]}));
+    });
+    ExpectKept(links);
+    Use([&](OpenDialog& dialog) {
+        deleteSecond(dialog, IDYES);
+        dialog.Tap(controlKeepLinks);
+        EXPECT_FALSE(dialog.IsOpen());
+    });
+    ExpectKept({links[0], links[2]});
+    TakeShownMessages();
 }
 
-TEST_F(DownloadDialog, AChosenOrANewLinkIsEditedWithTheInputPanelUp) {
-    Keep(Bytes({"http://one.example/", "http://two.example/"}));
+TEST_F(Downloads, AChosenOrANewLinkIsEditedWithTheInputPanelUp) {
+    KeepLinks({"http://one.example/", "http://two.example/"});
     Use([this](OpenDialog& dialog) {
         EXPECT_FALSE(Host().PanelUp());
         dialog.TapLine(controlLinks, 1);
-        EXPECT_EQ(dialog.TextOf(controlLink), "http://two.example/");
+        auto* edit = dialog.Find<QLineEdit>(controlLink);
+        EXPECT_EQ(edit->text(), "http://two.example/");
         EXPECT_TRUE(dialog.HasFocus(controlLink));
         EXPECT_TRUE(Host().PanelUp());
         dialog.Press(Qt::Key_Tab);
@@ -70,62 +165,232 @@ TEST_F(DownloadDialog, AChosenOrANewLinkIsEditedWithTheInputPanelUp) {
         EXPECT_TRUE(Host().PanelUp());
         handheld->TapPanel(12 + 9, 16 + 8);  // q
         dialog.Type(controlLink, ".example");
-        EXPECT_EQ(dialog.TextOf(controlLink), "http://q.example");
+        EXPECT_EQ(edit->text(), "http://q.example");
     });
     EXPECT_FALSE(Host().PanelUp());
 }
 
-TEST_F(DownloadDialog, DeletesTheSelectedLinkOnlyOnYesAndOnlyOkKeepsThat) {
-    const Links links = {"http://one.example/", "http://two.example/", "http://three.example/"};
-    Keep(Bytes(links));
-    const auto deleteSecond = [](OpenDialog& dialog, int answer) {
-        dialog.TapLine(controlLinks, 1);
-        AnswerNextMessageBox(answer);
-        dialog.Tap(controlDeleteLink);
-    };
-    Use([&](OpenDialog& dialog) {
-        dialog.Tap(controlDeleteLink);
-        EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>()) << "nothing is selected";
-        deleteSecond(dialog, IDNO);
-        EXPECT_EQ(dialog.Lines(controlLinks), links);
-        EXPECT_EQ(TakeShownMessages(),
-                  (std::vector<ShownMessage>{{u"Delete Link ?", u"New Game"}}));
-        deleteSecond(dialog, IDYES);
-        EXPECT_EQ(dialog.Lines(controlLinks), (Links{links[0], links[2]}));
-    });
-    EXPECT_EQ(ReadBytes(ListFile()), Bytes(links));
-    Use([&](OpenDialog& dialog) {
-        deleteSecond(dialog, IDYES);
-        dialog.Tap(controlKeepLinks);
-    });
-    EXPECT_EQ(ReadBytes(ListFile()), Bytes({links[0], links[2]}));
-    TakeShownMessages();
-}
-
-TEST_F(DownloadDialog, ADownloadedLinkIsListedOnce) {
-    std::filesystem::create_directories(home.documents() / "Quadrel Puzzles");
-    WebServer server;
-    server.Put("/a.puz", Page(PuzzleBytes(squareBoard)));
-    server.Put("/A.PUZ", Page(PuzzleBytes(squareBoard)));
+TEST_F(Downloads, ADownloadedLinkIsListedOnce) {
+    server.Put("/A.PUZ", Page(puzzle));
+    server.Put("/a.puz", Page(puzzle));
     Use([&](OpenDialog& dialog) {
         for (const char* path : {"/a.puz", "/a.puz", "/A.PUZ"}) {
-            const std::string link = server.Link(path);
             dialog.Tap(controlGetNew);
-            dialog.Type(controlLink, QString::fromStdString(link.substr(7)));
-            AcceptNextFile();
-            AnswerNextMessageBox(IDYES);
-            AnswerNextMessageBox(IDYES);
+            dialog.Type(controlLink, QString::fromStdString(server.Link(path).substr(7)));
+            Plan(asSuggested, {IDYES, IDYES});
             dialog.Press(Qt::Key_Return);
             EXPECT_EQ(dialog.Lines(controlLinks), (Links{defaultLink, server.Link("/a.puz")}));
             EXPECT_TRUE(dialog.HasFocus(controlLinks));
-            ForgetPlans();
         }
         EXPECT_EQ(server.Requests().size(), 3u);
         dialog.Tap(controlKeepLinks);
     });
-    EXPECT_EQ(ReadBytes(ListFile()), Bytes({defaultLink, server.Link("/a.puz")}));
+    ExpectKept({defaultLink, server.Link("/a.puz")});
     TakeShownMessages();
-    TakeShownChoosers();
+}
+
+TEST_F(Downloads, EveryBlockIsStoredUnderTheSuggestedName) {
+    EXPECT_EQ(Told({{Page("")}}), Messages{success}) << "an empty answer is one, without a file";
+    EXPECT_EQ(Stored(), Files());
+    const std::string longPuzzle = puzzle + std::string(70000, 'n') + "end";
+    for (const std::string& bytes : {puzzle, longPuzzle}) {
+        fs::remove(folder / "TheSundayP.puz");
+        const std::string page = Page(bytes);
+        EXPECT_EQ(Store({{page.substr(0, 70), page.substr(70)}, 1}),
+                  (Messages{Question(u"TheSundayP.puz"), success}));
+        EXPECT_EQ(Stored(), (Files{{"TheSundayP.puz", bytes}}));
+    }
+    EXPECT_EQ(CurrentPuzzlePath, u"\\My Documents\\start.puz"s) << "nothing is opened";
+}
+
+TEST_F(Downloads, FailuresAndANoStoreNothing) {
+    EXPECT_EQ(ToldAbout("gopher://127.0.0.1/"), Error(u"InternetOpenUrl Error: 2ee6"));
+    EXPECT_EQ(ToldAbout(RefusedLink()), Error(u"InternetOpenUrl Error: 2efd"));
+    EXPECT_EQ(Told({{Page(puzzle).substr(0, 150)}}), Error(u"InternetReadFile Error: 2eff"));
+    EXPECT_EQ(Told({{Page("<html><body>The page you asked for is not here, sorry.</body></html>",
+                          "404 Not Found")}}),
+              notAPuzzle);
+    const QString usual = std::exchange(networkModuleName, "libquadrel_network_missing.so");
+    EXPECT_EQ(Told({{Page(puzzle)}}), Error(u"The network cannot be used: 7e"));
+    networkModuleName = usual;
+    for (const std::string& bytes :
+         {"x"s, puzzle.substr(0, 44), puzzle.substr(0, 45), WithSizes(puzzle, 0, 0),
+          WithSizes(puzzle, 6, 0), WithSizes(puzzle, 0, 6), WithSizes(puzzle, 15, 21)}) {
+        EXPECT_EQ(Told({{Page(bytes)}}), notAPuzzle);
+    }
+    EXPECT_TRUE(TakeShownChoosers().empty());
+    EXPECT_EQ(Told({{Page(puzzle)}}), Messages()) << "the chooser was cancelled";
+    Plan(asSuggested, {IDNO});
+    EXPECT_EQ(Told({{Page(puzzle)}}), Messages{Question(u"TheSundayP.puz")});
+    EXPECT_EQ(Stored(), Files());
+}
+
+// The four zeros, the grids and the title are looked for in whatever arrives.
+TEST_F(Downloads, TheTitlesLettersAndDigitsAreSuggestedAndNothingElseIsRead) {
+    const auto titled = [](const std::string& title) { return Titled(squareBoard, title); };
+    const std::string head = puzzle.substr(0, gridOffset);
+    const std::string grids = puzzle.substr(gridOffset, 72);
+    const std::pair<std::string, std::string> blocks[] = {
+        {puzzle, "TheSundayP"},
+        {titled(""), ""},
+        {titled("\"?!\" ..."), ""},
+        {titled("R\xC3\xA4tsel 7"), "Rtsel7"},
+        {titled(std::string(49, ' ') + "ab"), "a"},
+        {titled("a/b\\c:d"), "abcd"},
+        {puzzle.substr(0, 46), ""},
+        {head, ""},
+        {head + grids, ""},
+        {head + grids + "AZaz09 end", "AZaz09end"},
+        {head + std::string(100, 'x'), ""},
+        {WithSizes(puzzle, 255, 255), ""},
+        {WithSizes(std::string(32000, '\x01'), 1, 1), ""},
+        {WithSizes(std::string(32000, '\0'), 1, 1), ""}};
+    for (const auto& [block, name] : blocks) {
+        EXPECT_EQ(Told({{Page(block)}}), Messages());
+        const auto choosers = TakeShownChoosers();
+        ASSERT_EQ(choosers.size(), 1u);
+        EXPECT_EQ(choosers[0].title, u"Save File");
+        EXPECT_EQ(choosers[0].folder, folder);
+        EXPECT_EQ(choosers[0].name, name);
+    }
+}
+
+TEST_F(Downloads, TheChooserAddsTheExtensionThenAsksBeforeItReplaces) {
+    WriteBytes(folder / "mine.puz", "old");
+    WriteBytes(folder / "other.txt", "old");
+    const ShownMessage replaced = {u"mine.puz is there already. Do you want to replace it?",
+                                   u"Save File"};
+    Plan("mine", {IDNO, IDYES});
+    ChooseNextFile("new.Puz");
+    EXPECT_EQ(Told({{Page(puzzle)}}), (Messages{replaced, Question(u"new.Puz"), success}));
+    EXPECT_EQ(TakeShownChoosers().back().name, "mine.puz") << "the name stays to be changed";
+    EXPECT_EQ(Stored().at("mine.puz"), "old");
+    Plan("mine.", {IDYES, IDYES});
+    EXPECT_EQ(Told({{Page(puzzle)}}), (Messages{replaced, Question(u"mine.puz"), success}));
+    EXPECT_EQ(Stored().at("mine.puz"), puzzle);
+
+    const std::pair<fs::path, std::u16string> wrong[] = {
+        {folder / "back\\slash.puz", u"name of this file cannot be used"},
+        {folder / "none" / "new.puz", u"Nothing can be saved in this folder"}};
+    for (const auto& [file, explained] : wrong) {
+        TakeShownChoosers();
+        Plan(file, {});
+        const Messages messages = Told({{Page(puzzle)}});
+        ASSERT_EQ(messages.size(), 1u);
+        EXPECT_EQ(messages[0].title, u"Save File");
+        EXPECT_NE(messages[0].text.find(explained), std::u16string::npos);
+        EXPECT_EQ(TakeShownChoosers().size(), 2u) << "it is chosen again";
+    }
+    EXPECT_EQ(Stored().size(), 3u);
+}
+
+// The disk changes while the player thinks about the last question.
+TEST_F(Downloads, WhatCannotBeWrittenSaysWhy) {
+    const auto problem = [this](const std::string& bytes, const std::function<void()>& change) {
+        Plan(asSuggested, {IDYES});
+        DoDuringNextMessageBox(change);
+        const Messages messages = Told({{bytes}});
+        EXPECT_EQ(messages.at(0), Question(u"TheSundayP.puz"));
+        return Messages{messages.at(1)};
+    };
+    const std::string longPuzzle = puzzle + std::string(50000, 'n');
+    EXPECT_EQ(problem(Page(longPuzzle).substr(0, 45000), [] {}),
+              Error(u"InternetReadFile Error: 2eff"));
+    EXPECT_EQ(Stored(), (Files{{"TheSundayP.puz", longPuzzle.substr(0, 32000)}}))
+        << "what was read before the connection broke";
+    fs::remove(folder / "TheSundayP.puz");
+    std::optional<NoSpace> full;
+    EXPECT_EQ(problem(Page(longPuzzle),
+                      [&] {
+                          WriteBytes(folder / "TheSundayP.puz", "old");
+                          full.emplace();
+                      }),
+              Error(u"WriteFile Error: 70"));
+    full.reset();
+    EXPECT_EQ(Stored(), (Files{{"TheSundayP.puz", "old"}}));
+    fs::remove(folder / "TheSundayP.puz");
+    EXPECT_EQ(problem(Page(puzzle), [this] { fs::create_directory(folder / "TheSundayP.puz"); }),
+              Error(u"CreateFile Error: 5"));
+    fs::remove(folder / "TheSundayP.puz");
+    EXPECT_EQ(problem(Page(puzzle), [this] { fs::remove_all(folder); }),
+              Error(u"CreateFile Error: 3"));
+}
+
+TEST_F(Downloads, AskedToEndOneEndsAtOnceAndSaysNothing) {
+    QTimer::singleShot(30, &Host(), [] { Host().close(); });
+    EXPECT_EQ(Told({{}, 0, WebAnswer::Ending::StayOpen}), Messages());
+    handheld->Settle();
+    EXPECT_FALSE(handheld->Running());
+}
+
+class Replacing : public Downloads {
+protected:
+    Replacing() {
+        PlayFirst();
+    }
+    void PlayFirst() {
+        Store({{Page(puzzle)}});
+        OpenPuzzle(file);
+        handheld->Type("XYZ");
+    }
+    void OpenAnother() {
+        OpenPuzzle(home.documents() / "start.puz");
+    }
+    // The same black squares as squareBoard, other letters.
+    void StoreLookalike() {
+        const BoardRows rows = {"QWE.RT", "YUIOPA", "SD.FGH", "JKLZXC", ".VBNMQ", "WE.RTY"};
+        Store({{Page(Titled(rows, "The Sunday Puzzle No. 13"))}});
+    }
+    void ExpectFreshLookalike() {
+        EXPECT_EQ(PlayerLetters(), "---.----------.---------.-------.---");
+        EXPECT_EQ(SolutionGrid[0], 'Q');
+    }
+
+    fs::path file = folder / "TheSundayP.puz";
+};
+
+TEST_F(Replacing, APuzzleLeavesNoLettersToItsSuccessor) {
+    using Step = std::function<void()>;
+    const Step store = [this] { StoreLookalike(); };
+    const Step leave = [this] { OpenAnother(); };
+    const Step remove = [this] { fs::remove(file); };
+    const std::vector<Step> ways[] = {
+        {leave, store}, {leave, remove, store}, {store}, {store, leave}};
+    for (const auto& steps : ways) {
+        PlayFirst();
+        for (const Step& step : steps) {
+            step();
+        }
+        OpenPuzzle(file);
+        ExpectFreshLookalike();
+    }
+    PlayFirst();
+    StoreLookalike();
+    handheld->Type("W");
+    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYW") << "the one in play is played on";
+    Magnification = mediumSize;
+    Restart();
+    ExpectFreshLookalike();
+    EXPECT_EQ(Magnification.Medium, 1) << "the settings are the player's";
+}
+
+TEST_F(Replacing, TheSamePuzzleKeepsItsLettersAndACorrectedOne) {
+    BoardRows corrected = squareBoard;
+    corrected[4][4] = 'Q';
+    for (const std::string& bytes : {puzzle, Titled(corrected, "The Sunday Puzzle No. 12")}) {
+        Store({{Page(bytes)}});
+        Restart();
+        EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+        OpenAnother();
+        Store({{Page(bytes)}});
+        OpenPuzzle(file);
+        EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+    }
+    WriteBytes(file, PuzzleBytes(lopsidedBoard));
+    OpenAnother();
+    WriteBytes(file, puzzle);
+    OpenPuzzle(file);
+    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ") << "a file that cannot be played takes none";
 }
 
 }  // namespace

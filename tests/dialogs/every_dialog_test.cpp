@@ -1,6 +1,5 @@
 #include <QtCore/QCoreApplication>
 
-#include "keyboard/keyboard_drawing.h"
 #include "keyboard/keyboard_visibility.h"
 #include "platform/qt/host/host_window.h"
 #include "resources/ids.h"
@@ -12,124 +11,129 @@ namespace {
 
 struct KnownDialog {
     const char* title;
-    const char* button;  // of the menu bar, or null when it is in the main menu
-    const char* item;
+    const char* button;
+    const char* item;  // of the main menu, or null
     int command;
     int okButton;
 };
 
-constexpr KnownDialog knownDialogs[] = {
-    {"Quadrel Clues", "Open the clue list", nullptr, commandClueList, commandClose},
-    {"Preferences", nullptr, "Preferences", commandPreferences, commandClose},
-    {"Quadrel Quick Help", nullptr, "Help", commandHelp, controlHelpClose},
-    {"Download Puzzles", nullptr, "Puzzles/Download", commandDownload, controlKeepLinks},
-    {"About Quadrel", "About Quadrel", nullptr, commandAbout, controlAboutClose},
-};
-
-class EveryDialog : public PlayedBoard {
+class EveryDialog : public PlayedBoard, public testing::WithParamInterface<KnownDialog> {
 protected:
-    void Open(const KnownDialog& known) {
-        if (known.button != nullptr) {
-            EXPECT_TRUE(handheld->PressButton(known.button));
-        } else {
-            EXPECT_TRUE(ChooseFromBar(*handheld, "Main Menu", QString(known.item).split('/')));
-        }
-    }
-    void Use(const KnownDialog& known, const std::function<void(OpenDialog&)>& use) {
-        UseDialog(
-            *handheld, [&] { Open(known); }, use);
+    void Use(const std::function<void(OpenDialog&)>& use) {
+        const auto open = [this] {
+            EXPECT_TRUE(GetParam().item == nullptr
+                            ? handheld->PressButton(GetParam().button)
+                            : ChooseFromBar(*handheld, GetParam().button,
+                                            QString(GetParam().item).split('/')));
+        };
+        UseDialog(*handheld, open, use);
     }
 };
 
-TEST_F(EveryDialog, ClosesByItsButtonTheTitleBarAndEscapeFromEverySize) {
-    for (const KnownDialog& known : knownDialogs) {
-        for (const MagnificationFlags& size : {smallSize, mediumSize, largeSize}) {
-            Play(squareBoard, size);
-            const std::function<void(OpenDialog&)> ways[] = {
-                [&](OpenDialog& dialog) { dialog.Tap(known.okButton); },
-                [](OpenDialog& dialog) { dialog.TapTitleOk(); },
-                [](OpenDialog& dialog) { dialog.Press(Qt::Key_Escape); },
-            };
-            for (const auto& way : ways) {
-                Use(known, [&](OpenDialog& dialog) {
-                    EXPECT_EQ(dialog.Title(), known.title);
-                    way(dialog);
-                    EXPECT_FALSE(dialog.IsOpen());
-                });
-            }
-            handheld->Press(Qt::Key_X);
-            EXPECT_EQ(PlayerLetters()[0], 'X') << "keys no longer arrive after " << known.title;
-        }
-    }
-}
-
-TEST_F(EveryDialog, LowersTheInputPanelAndTheBoardGetsTheRoom) {
-    for (const KnownDialog& known : knownDialogs) {
-        Play(squareBoard, mediumSize);
+TEST_P(EveryDialog, ClosesByItsButtonTheTitleBarAndEscapeFromEverySize) {
+    const std::function<void(OpenDialog&)> ways[] = {
+        [](OpenDialog& dialog) { dialog.Tap(GetParam().okButton); },
+        [](OpenDialog& dialog) { dialog.TapTitleOk(); },
+        [](OpenDialog& dialog) { dialog.Press(Qt::Key_Escape); },
+    };
+    for (const MagnificationFlags& size : {smallSize, mediumSize, largeSize}) {
+        Play(squareBoard, size);
         const int roomy = ViewHeight;
-        handheld->PressPanelButton();
-        ASSERT_TRUE(Host().PanelUp());
-        Use(known, [](OpenDialog&) { EXPECT_FALSE(Host().PanelUp()); });
-        EXPECT_EQ(ViewHeight, roomy) << known.title;
+        for (const auto& way : ways) {
+            handheld->PressPanelButton();
+            Use([&](OpenDialog& dialog) {
+                EXPECT_EQ(dialog.Title(), GetParam().title);
+                EXPECT_FALSE(Host().PanelUp());
+                way(dialog);
+                EXPECT_FALSE(dialog.IsOpen());
+            });
+            EXPECT_EQ(ViewHeight, roomy);
+        }
+        handheld->Press(Qt::Key_X);
+        EXPECT_EQ(PlayerLetters()[0], 'X') << "keys no longer arrive";
     }
 }
 
-TEST_F(EveryDialog, LeavesTheKeyboardWhereItIs) {
-    for (const KnownDialog& known : knownDialogs) {
-        Play(squareBoard, smallSize);
-        ShowKeyboard(MainWindow);
-        RepaintFully(MainWindow);
-        Use(known, [](OpenDialog&) {});
-        EXPECT_EQ(KeyboardVisible, 1) << known.title;
-        const QImage shown = handheld->Client();
-        DrawKeyboardIfVisible(MainWindow);
-        EXPECT_EQ(handheld->Client(), shown) << known.title;
-        HideKeyboard(MainWindow);
-    }
-}
-
-TEST_F(EveryDialog, AnImpatientHandOpensItOnce) {
+// Only the preferences bring the highlight back.
+TEST_P(EveryDialog, LeavesTheBoardAndTheKeyboardAsTheyWere) {
     Play(squareBoard, smallSize);
+    ShowKeyboard(MainWindow);
+    const UINT repaint = GetParam().command == commandPreferences ? 0 : WM_PAINT;
+    RepaintFully(MainWindow);
+    SendMessageW(MainWindow, repaint, 0, 0);
+    const QImage screen = handheld->Screen();
+    Use([](OpenDialog&) {});
+    EXPECT_EQ(handheld->Screen(), screen);
+}
+
+TEST_P(EveryDialog, AnImpatientHandOpensItOnce) {
     const std::string letters = PlayerLetters();
-    for (const KnownDialog& known : knownDialogs) {
-        int opened = 0;
-        const auto open = [&] {
-            PostMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(known.command), 0);
-            PostMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(known.command), 0);
-            PostMessageW(MainWindow, WM_KEYDOWN, 'Z', 0);
-            handheld->Settle();
-        };
-        UseDialog(*handheld, open, [&](OpenDialog&) {
-            ++opened;
-            EXPECT_FALSE(handheld->PressButton("Select a new puzzle"));
-        });
-        EXPECT_EQ(opened, 1) << known.title;
-    }
+    int opened = 0;
+    const auto open = [this] {
+        PostMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(GetParam().command), 0);
+        PostMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(GetParam().command), 0);
+        PostMessageW(MainWindow, WM_KEYDOWN, 'Z', 0);
+        handheld->Settle();
+    };
+    UseDialog(*handheld, open, [&](OpenDialog&) {
+        ++opened;
+        EXPECT_FALSE(handheld->PressButton("Select a new puzzle"));
+    });
+    EXPECT_EQ(opened, 1);
     EXPECT_EQ(PlayerLetters(), letters);
 }
 
-TEST_F(EveryDialog, FollowsTheScreenWhenItIsResized) {
-    for (const KnownDialog& known : knownDialogs) {
-        Use(known, [&](OpenDialog& dialog) {
-            const QRect small = dialog.Widget(known.okButton)->geometry();
-            handheld->Resize(3);
-            const QRect large = dialog.Widget(known.okButton)->geometry();
-            EXPECT_EQ(large.topLeft(), small.topLeft() * 3) << known.title;
-            EXPECT_EQ(large.size(), small.size() * 3) << known.title;
-            EXPECT_EQ(dialog.Drawn().size(), QSize(240 * 3, 294 * 3));
-            handheld->Resize(1);
-        });
+// How much the two pictures differ where they differ most, in patches of some logical pixels, which
+// even out where a letter's edges fall.
+int LargestDifference(const QImage& one, const QImage& other) {
+    const auto patches = [](const QImage& image) {
+        return image.scaled(30, 40, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    const QImage first = patches(one);
+    const QImage second = patches(other);
+    int largest = 0;
+    for (int i = 0; i < 30 * 40; ++i) {
+        const QRgb a = first.pixel(i % 30, i / 30);
+        const QRgb b = second.pixel(i % 30, i / 30);
+        largest = std::max({largest, std::abs(qRed(a) - qRed(b)), std::abs(qBlue(a) - qBlue(b))});
     }
+    return largest;
 }
 
-TEST_F(EveryDialog, ClosesWithTheProgramWhichSavesItsState) {
-    for (const KnownDialog& known : knownDialogs) {
-        std::filesystem::remove(home.stateFile());
-        Use(known, [](OpenDialog&) { Host().close(); });
-        EXPECT_FALSE(handheld->Running()) << known.title;
-        EXPECT_TRUE(std::filesystem::exists(home.stateFile())) << known.title;
-        Restart();
-    }
+TEST_P(EveryDialog, LooksTheSameOnEveryScreen) {
+    Use([this](OpenDialog& dialog) {
+        dialog.TapAt(2, 2);  // the end of the show that About is
+        const QImage small = handheld->Screen();
+        const QRect place = dialog.Find<QWidget>(GetParam().okButton)->geometry();
+        for (int times : {2, 3}) {
+            handheld->Resize(times);
+            const QRect large = dialog.Find<QWidget>(GetParam().okButton)->geometry();
+            EXPECT_EQ(large, QRect(place.topLeft() * times, place.size() * times));
+            EXPECT_LT(LargestDifference(small, handheld->Screen()), 32);
+        }
+        handheld->Resize(1);
+        EXPECT_EQ(handheld->Screen(), small);
+    });
 }
+
+TEST_P(EveryDialog, ClosesWithTheProgramWhichSavesItsState) {
+    std::filesystem::remove(home.stateFile());
+    Use([](OpenDialog&) { Host().close(); });
+    EXPECT_FALSE(handheld->Running());
+    EXPECT_TRUE(std::filesystem::exists(home.stateFile()));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , EveryDialog,
+    testing::Values(KnownDialog{"Quadrel Clues", "Open the clue list", nullptr, commandClueList,
+                                commandClose},
+                    KnownDialog{"Preferences", "Main Menu", "Preferences", commandPreferences,
+                                commandClose},
+                    KnownDialog{"Quadrel Quick Help", "Main Menu", "Help", commandHelp,
+                                controlHelpClose},
+                    KnownDialog{"Download Puzzles", "Main Menu", "Puzzles/Download",
+                                commandDownload, controlKeepLinks},
+                    KnownDialog{"About Quadrel", "About Quadrel", nullptr, commandAbout,
+                                controlAboutClose}));
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QColorDialog>
 
 #include "dialogs/board_colors.h"
@@ -10,63 +11,43 @@ namespace {
 
 class Preferences : public PlayedBoard {
 protected:
-    void Start(MagnificationFlags size) {
-        Play(lopsidedBoard, size);
-        SelectCell(3, 5, 1);
-        RepaintFully(MainWindow);
-    }
     void Use(const std::function<void(OpenDialog&)>& use) {
         UseDialog(
             *handheld, [this] { ChooseFromBar(*handheld, "Main Menu", {"Preferences"}); }, use);
     }
-    std::vector<int> Settings() const {
-        return {Magnification.Small,
-                Magnification.Medium,
-                Magnification.Large,
-                AutoSkip,
-                ShowNumbers,
-                static_cast<int>(SquareColor),
-                static_cast<int>(BackgroundColor)};
+    static std::vector<int> Settings() {
+        return {Magnification.Small, Magnification.Medium, Magnification.Large, AutoSkip,
+                ShowNumbers};
     }
 };
 
-TEST_F(Preferences, OkAloneChangesNothingButLaysTheBoardOutAnew) {
+TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
     Play(BoardRows(20, "ABC.DEF.GHI.JKL.MNO."), mediumSize);
     handheld->Drag({120, 120}, {20, 20});
     ASSERT_GT(ScrollX, 0);
-    const std::vector<int> before = Settings();
-    Use([](OpenDialog& dialog) {
-        EXPECT_TRUE(dialog.IsChecked(controlMedium));
-        EXPECT_FALSE(dialog.IsChecked(controlSmall) || dialog.IsChecked(controlLarge));
-        EXPECT_FALSE(dialog.IsChecked(controlAutoSkip) || dialog.IsChecked(controlShowNumbers));
-        dialog.Tap(commandClose);
-        EXPECT_FALSE(dialog.IsOpen());
-    });
-    EXPECT_EQ(Settings(), before);
-    EXPECT_EQ(ScrollX, 0);
-    EXPECT_EQ(ScrollY, 0);
-}
-
-TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
-    Start(smallSize);
-    const std::vector<int> start = Settings();
+    SelectCell(3, 5, 1);
     const std::pair<int, std::vector<int>> changes[] = {
         {controlMedium, {0, 1, 0, 0, 0}},   {controlLarge, {0, 0, 1, 0, 0}},
         {controlAutoSkip, {0, 0, 1, 1, 0}}, {controlShowNumbers, {0, 0, 1, 1, 1}},
         {controlAutoSkip, {0, 0, 1, 0, 1}}, {controlSmall, {1, 0, 0, 0, 1}},
     };
     for (const auto& [control, expected] : changes) {
+        SCOPED_TRACE(control);
         const std::vector<int> before = Settings();
         Use([&, changed = control](OpenDialog& dialog) {
+            std::vector<int> shown;
+            for (int each :
+                 {controlSmall, controlMedium, controlLarge, controlAutoSkip, controlShowNumbers}) {
+                shown.push_back(dialog.Find<QAbstractButton>(each)->isChecked());
+            }
+            EXPECT_EQ(shown, before);
             dialog.Tap(changed);
             EXPECT_EQ(Settings(), before);
+            dialog.Tap(commandClose);
+            EXPECT_FALSE(dialog.IsOpen());
         });
-        SCOPED_TRACE(control);
-        std::vector<int> now = Settings();
-        now.resize(expected.size());
-        EXPECT_EQ(now, expected);
-        EXPECT_EQ(PlayerLetters().size(), 35u);
-        EXPECT_EQ(CursorRow, 3);
+        EXPECT_EQ(Settings(), expected);
+        EXPECT_EQ(std::tuple(CursorRow, ScrollX, ScrollY), std::tuple(3, 0, 0));
         ExpectFullRepaint();
     }
     EXPECT_TRUE(LookAtMenu(*handheld, "Puzzle magnification").items["Small"].checked);
@@ -74,7 +55,6 @@ TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
 }
 
 TEST_F(Preferences, TheArrowsChooseASize) {
-    Start(smallSize);
     Use([](OpenDialog& dialog) {
         EXPECT_TRUE(dialog.HasFocus(controlSmall));
         dialog.Press(Qt::Key_Right);
@@ -84,24 +64,25 @@ TEST_F(Preferences, TheArrowsChooseASize) {
         dialog.Press(Qt::Key_Return);
         EXPECT_FALSE(dialog.IsOpen());
     });
-    EXPECT_EQ(Magnification.Medium, 1);
-    EXPECT_EQ(AutoSkip, 1);
+    EXPECT_EQ(Settings(), (std::vector<int>{0, 1, 0, 1, 0}));
 }
 
 // The colours that players mix themselves are kept for the run.
 TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
-    Start(smallSize);
+    Play(squareBoard, smallSize);
     constexpr COLORREF green = RGB(10, 120, 30);
     constexpr COLORREF cream = RGB(250, 240, 220);
     Use([&](OpenDialog& dialog) {
         PickNextColor(green, true);
         dialog.Tap(controlSquareColor);
-        EXPECT_EQ(SquareColor, green);
         PickNextColor(cream, true);
         dialog.Tap(controlBackgroundColor);
-        EXPECT_EQ(BackgroundColor, cream);
-        const QImage button = dialog.Widget(controlSquareColor)->grab().toImage();
-        EXPECT_EQ(ColorAt(button, button.width() / 2, button.height() / 2), green);
+        EXPECT_EQ(std::pair(SquareColor, BackgroundColor), std::pair(green, cream));
+        for (const auto& [control, color] :
+             {std::pair(controlSquareColor, green), {controlBackgroundColor, cream}}) {
+            const QImage button = dialog.Find<QWidget>(control)->grab().toImage();
+            EXPECT_EQ(ColorAt(button, button.width() / 2, button.height() / 2), color);
+        }
         QColorDialog::setCustomColor(0, Qt::white);
         SquareColorChooser.lpCustColors[3] = RGB(1, 23, 45);
         PickNextColor(RGB(1, 2, 3), false);
@@ -109,10 +90,11 @@ TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
         EXPECT_EQ(SquareColor, green);
         EXPECT_EQ(QColorDialog::customColor(3), QColor(1, 23, 45));
         EXPECT_EQ(QColorDialog::customColor(8), QColor(Qt::black));
+        EXPECT_EQ(QColorDialog::customColor(15), QColor(96, 96, 96));
     });
-    // The black square of the first row, and a letter cell.
-    EXPECT_EQ(handheld->Pixel(BoardLeft + 2 * CellSize + CellSize / 2, CellSize / 2), green);
-    EXPECT_EQ(handheld->Pixel(BoardLeft + CellSize / 2, CellSize / 2), cream);
+    // A black square of the first row, and a letter cell.
+    EXPECT_EQ(handheld->Pixel(BoardLeft + 3 * CellSize + CellSize / 2, CellSize / 2), green);
+    EXPECT_EQ(handheld->Pixel(BoardLeft + 4 * CellSize + 2, CellSize - 3), cream);
 }
 
 }  // namespace

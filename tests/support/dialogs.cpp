@@ -101,14 +101,14 @@ void OpenDialog::Click(QWidget* widget, QPointF place) {
 }
 
 void OpenDialog::TapLine(int list, int line) {
-    auto* widget = qobject_cast<QListWidget*>(Widget(list));
+    auto* widget = Find<QListWidget>(list);
     ASSERT_LT(line, widget->count());
     widget->scrollToItem(widget->item(line));
     Click(widget->viewport(), widget->visualItemRect(widget->item(line)).center());
 }
 
 void OpenDialog::TapTab(int tabs, int tab) {
-    auto* widget = qobject_cast<QTabBar*>(Widget(tabs));
+    auto* widget = Find<QTabBar>(tabs);
     Click(widget, widget->tabRect(tab).center());
 }
 
@@ -145,7 +145,7 @@ void OpenDialog::Type(int edit, const QString& text) {
 
 std::vector<std::string> OpenDialog::Lines(int list) const {
     std::vector<std::string> lines;
-    const auto* widget = qobject_cast<QListWidget*>(Widget(list));
+    const auto* widget = Find<QListWidget>(list);
     for (int line = 0; line < widget->count(); ++line) {
         lines.push_back(widget->item(line)->text().toStdString());
     }
@@ -153,20 +153,11 @@ std::vector<std::string> OpenDialog::Lines(int list) const {
 }
 
 int OpenDialog::SelectedLine(int list) const {
-    return qobject_cast<QListWidget*>(Widget(list))->currentRow();
-}
-
-bool OpenDialog::IsChecked(int control) const {
-    return qobject_cast<QAbstractButton*>(Widget(control))->isChecked();
+    return Find<QListWidget>(list)->currentRow();
 }
 
 bool OpenDialog::HasFocus(int control) const {
     return Host().focusWidget() == Widget(control);
-}
-
-std::string OpenDialog::TextOf(int control) const {
-    const auto* edit = qobject_cast<QLineEdit*>(Widget(control));
-    return (edit != nullptr ? edit->text() : QString()).toStdString();
 }
 
 QImage OpenDialog::Drawn() const {

@@ -2,13 +2,12 @@
 #pragma once
 
 #include <QtGui/QImage>
+#include <QtWidgets/QWidget>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "support/handheld.h"
-
-class QWidget;
 
 // The dialog that is open.
 class OpenDialog {
@@ -29,13 +28,14 @@ public:
     void Press(int key);
     void Type(int edit, const QString& text);
 
+    template <typename WidgetType>
+    WidgetType* Find(int control) const {
+        return qobject_cast<WidgetType*>(Widget(control));
+    }
     std::vector<std::string> Lines(int list) const;
     // -1 when none is selected.
     int SelectedLine(int list) const;
-    bool IsChecked(int control) const;
     bool HasFocus(int control) const;
-    std::string TextOf(int control) const;
-    QWidget* Widget(int control) const;
     // What the dialog itself has drawn, under its controls.
     QImage Drawn() const;
 
@@ -43,6 +43,7 @@ public:
     void Drag(QWidget* widget, QPointF from, QPointF to);
 
 private:
+    QWidget* Widget(int control) const;
     void Click(QWidget* widget, QPointF place);
 
     Handheld& handheld;

@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "platform/qt/process/bring_up.h"
-#include "support/boxes.h"
 #include "support/dialogs.h"
+#include "support/message_boxes.h"
 
 namespace {
 

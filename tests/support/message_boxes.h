@@ -1,4 +1,4 @@
-// Answering the real message boxes and choosers of a program under test.
+// Answering the real message boxes, choosers and menus of a program under test.
 #pragma once
 
 #include <filesystem>
@@ -8,6 +8,9 @@
 #include <vector>
 
 #include "platform/types.h"
+
+// For the main program of the tests, with the application object in place.
+void AnswerBoxes();
 
 struct ShownMessage {
     std::u16string text;
@@ -29,8 +32,8 @@ std::vector<ShownMessage> TakeShownMessages();
 // The file that the next file chooser is given; an empty path cancels it, and so does having
 // planned nothing. A bare name is one in the folder that the chooser shows.
 void ChooseNextFile(const std::filesystem::path& file);
-// Takes what the next chooser suggests.
-void AcceptNextFile();
+// What the chooser suggests.
+inline const std::filesystem::path asSuggested = ".";
 
 // A test that failed may not have used all of its plans.
 void ForgetPlans();

@@ -1,4 +1,4 @@
-#include "support/boxes.h"
+#include "support/message_boxes.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
@@ -16,7 +16,6 @@
 
 #include "platform/dialogs.h"
 #include "platform/text.h"
-#include "support/message_boxes.h"
 
 namespace {
 
@@ -27,7 +26,6 @@ struct PlannedColor {
     bool accept;
 };
 std::deque<PlannedColor> plannedColors;
-const std::filesystem::path asSuggested = ".";
 std::vector<ShownChooser> shownChoosers;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
@@ -89,21 +87,23 @@ void Answer(QMenu* menu) {
     menu->close();
 }
 
+template <typename Box>
+bool AnswerIfIs(QObject* object) {
+    auto* box = qobject_cast<Box*>(object);
+    if (box != nullptr) {
+        QTimer::singleShot(0, box, [box] { Answer(box); });
+    }
+    return box != nullptr;
+}
+
 class BoxWatcher : public QObject {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Show) {
-            if (auto* dialog = qobject_cast<QFileDialog*>(object)) {
-                QTimer::singleShot(0, dialog, [dialog] { Answer(dialog); });
-            } else if (auto* colors = qobject_cast<QColorDialog*>(object)) {
-                QTimer::singleShot(0, colors, [colors] { Answer(colors); });
-            } else if (auto* box = qobject_cast<QDialog*>(object)) {
-                QTimer::singleShot(0, box, [box] { Answer(box); });
-            } else if (auto* menu = qobject_cast<QMenu*>(object)) {
-                QTimer::singleShot(0, menu, [menu] { Answer(menu); });
-            }
+            AnswerIfIs<QFileDialog>(object) || AnswerIfIs<QColorDialog>(object) ||
+                AnswerIfIs<QDialog>(object) || AnswerIfIs<QMenu>(object);
         }
         return false;
     }
@@ -137,10 +137,6 @@ void ChooseNextFile(const std::filesystem::path& file) {
 
 void PickNextColor(COLORREF color, bool accept) {
     plannedColors.push_back({color, accept});
-}
-
-void AcceptNextFile() {
-    plannedFiles.push_back(asSuggested);
 }
 
 void ForgetPlans() {
