@@ -51,6 +51,7 @@ void UseDialog(Handheld& handheld, const std::function<void()>& open,
         used = true;
         // Arrow keys ask the application where the focus is.
         QApplication::setActiveWindow(&Host());
+        handheld.Settle();
         OpenDialog dialog(handheld);
         use(dialog);
         if (dialog.IsOpen()) {
