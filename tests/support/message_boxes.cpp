@@ -1,5 +1,7 @@
 #include "support/message_boxes.h"
 
+#include <gtest/gtest.h>
+
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -41,11 +43,24 @@ Value TakeNext(std::deque<Value>& planned, Value otherwise) {
     return next;
 }
 
+// Whatever it says: all of it can be seen, in a box not much wider than the game.
+void ExpectReadable(const QLabel& text) {
+    const QStringList lines =
+        text.text().replace(QChar(QChar::LineSeparator), QChar(u'\n')).split(u'\n');
+    for (const QString& line : lines) {
+        EXPECT_LE(text.fontMetrics().horizontalAdvance(line.trimmed()), text.width());
+    }
+    EXPECT_LE(lines.size() * text.fontMetrics().lineSpacing(), text.height() + 1);
+    EXPECT_TRUE(text.window()->rect().contains(text.geometry()));
+    EXPECT_LE(text.window()->width(), 30 * text.fontInfo().pixelSize());
+}
+
 // A box's text is its last label; its buttons are named by their answers.
 void Answer(QDialog* box) {
+    const auto* label = box->findChildren<QLabel*>().last();
+    ExpectReadable(*label);
     // Without the breaks that a box puts into long lines.
-    const QString text =
-        box->findChildren<QLabel*>().last()->text().remove(QChar(QChar::LineSeparator));
+    const QString text = label->text().remove(QChar(QChar::LineSeparator));
     shownMessages.push_back({text.toStdU16String(), box->windowTitle().toStdU16String()});
     if (duringNextBox) {
         std::exchange(duringNextBox, nullptr)();
