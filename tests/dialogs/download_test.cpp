@@ -132,6 +132,7 @@ TEST_F(Downloads, OnlyOkKeepsTheLinksAsTheyAreShown) {
     };
     Use([&](OpenDialog& dialog) {
         EXPECT_EQ(dialog.Lines(controlLinks), links);
+        EXPECT_TRUE(dialog.Find<QWidget>(controlDownloadHeading)->font().bold());
         dialog.Tap(controlDeleteLink);
         EXPECT_EQ(TakeShownMessages(), Messages()) << "nothing is selected";
         deleteSecond(dialog, IDNO);

@@ -1,4 +1,6 @@
 #include <QtCore/QCoreApplication>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QTabBar>
 
 #include "keyboard/keyboard_visibility.h"
 #include "platform/qt/host/host_window.h"
@@ -100,16 +102,43 @@ int LargestDifference(const QImage& one, const QImage& other) {
     return largest;
 }
 
-TEST_P(EveryDialog, LooksTheSameOnEveryScreen) {
+// All inside, nothing over anything else, no text and no line of a list cut.
+void ExpectTidy(const QWidget& dialog) {
+    const auto controls = dialog.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    for (const QWidget* control : controls) {
+        SCOPED_TRACE(control->objectName().toStdString() + control->metaObject()->className());
+        const QRect place = control->geometry();
+        for (const QWidget* other : controls) {
+            const bool frames = control->inherits("QGroupBox") || other->inherits("QGroupBox");
+            const QRect shared = place.intersected(other->geometry());
+            EXPECT_TRUE(other == control || frames || shared.height() <= 1);
+        }
+        const QSize text =
+            control->fontMetrics().size(0, control->property("text").toString().trimmed());
+        EXPECT_LE(text.width(), place.width());
+        EXPECT_LE(text.height(), place.height() + 1);
+        EXPECT_TRUE(dialog.rect().contains(QRect(place.topLeft(), text)));
+        if (const auto* list = qobject_cast<const QListWidget*>(control)) {
+            EXPECT_EQ(list->viewport()->height() % list->sizeHintForRow(0), 0);
+        } else if (const auto* tabs = qobject_cast<const QTabBar*>(control)) {
+            EXPECT_EQ(tabs->tabRect(1).height(), place.height());
+        }
+    }
+}
+
+TEST_P(EveryDialog, IsTidyAndLooksTheSameOnEveryScreen) {
     Use([this](OpenDialog& dialog) {
         dialog.TapAt(2, 2);  // the end of the show that About is
         const QImage small = handheld->Screen();
-        const QRect place = dialog.Find<QWidget>(GetParam().okButton)->geometry();
-        for (int times : {2, 3}) {
+        const auto* button = dialog.Find<QWidget>(GetParam().okButton);
+        const QRect place = button->geometry();
+        for (double times : {1.0, 1.37, 2.0, 3.0}) {
+            SCOPED_TRACE(times);
             handheld->Resize(times);
-            const QRect large = dialog.Find<QWidget>(GetParam().okButton)->geometry();
-            EXPECT_EQ(large, QRect(place.topLeft() * times, place.size() * times));
+            const QPoint shift = button->geometry().bottomRight() - place.bottomRight() * times;
+            EXPECT_LE(shift.manhattanLength(), times + 1);
             EXPECT_LT(LargestDifference(small, handheld->Screen()), 32);
+            ExpectTidy(*button->parentWidget());
         }
         handheld->Resize(1);
         EXPECT_EQ(handheld->Screen(), small);
@@ -125,15 +154,12 @@ TEST_P(EveryDialog, ClosesWithTheProgramWhichSavesItsState) {
 
 INSTANTIATE_TEST_SUITE_P(
     , EveryDialog,
-    testing::Values(KnownDialog{"Quadrel Clues", "Open the clue list", nullptr, commandClueList,
-                                commandClose},
-                    KnownDialog{"Preferences", "Main Menu", "Preferences", commandPreferences,
-                                commandClose},
-                    KnownDialog{"Quadrel Quick Help", "Main Menu", "Help", commandHelp,
-                                controlHelpClose},
-                    KnownDialog{"Download Puzzles", "Main Menu", "Puzzles/Download",
-                                commandDownload, controlKeepLinks},
-                    KnownDialog{"About Quadrel", "About Quadrel", nullptr, commandAbout,
-                                controlAboutClose}));
+    testing::Values(
+        KnownDialog{"Quadrel Clues", "Open the clue list", nullptr, commandClueList, commandClose},
+        KnownDialog{"Preferences", "Main Menu", "Preferences", commandPreferences, commandClose},
+        KnownDialog{"Quadrel Quick Help", "Main Menu", "Help", commandHelp, controlHelpClose},
+        KnownDialog{"Download Puzzles", "Main Menu", "Puzzles/Download", commandDownload,
+                    controlKeepLinks},
+        KnownDialog{"About Quadrel", "About Quadrel", nullptr, commandAbout, controlAboutClose}));
 
 }  // namespace

@@ -57,6 +57,7 @@ TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
 TEST_F(Preferences, TheArrowsChooseASize) {
     Use([](OpenDialog& dialog) {
         EXPECT_TRUE(dialog.HasFocus(controlSmall));
+        EXPECT_TRUE(dialog.Find<QWidget>(controlColorGroup)->font().bold());
         dialog.Press(Qt::Key_Right);
         dialog.Press(Qt::Key_Tab);
         EXPECT_TRUE(dialog.HasFocus(controlAutoSkip));

@@ -1,4 +1,5 @@
 // List boxes.
+#include <QtWidgets/QScrollBar>
 #include <algorithm>
 #include <string>
 
@@ -28,16 +29,17 @@ struct ListBox : Control {
     // Ends with a whole line, so that none is cut.
     RECT Area() const override {
         RECT area = Control::Area();
-        const int around = 2 * border + (extent == 0 ? 0 : scrollBarExtent);
-        const int rows = (area.bottom - area.top - around) / rowHeight;
-        area.bottom = area.top + around + rows * rowHeight;
+        area.bottom = area.top + Around() + Rows() * rowHeight;
         return area;
     }
 
     void Place() override {
         Control::Place();
-        List()->SetMeasures(qRound(rowHeight * ScreenMagnification()),
-                            qRound(extent * ScreenMagnification()));
+        const int row = qRound(rowHeight * ScreenMagnification());
+        List()->SetMeasures(row, qRound(extent * ScreenMagnification()));
+        // Nor by the rounding of every line.
+        const int bar = extent == 0 ? 0 : List()->horizontalScrollBar()->sizeHint().height();
+        widget->resize(widget->width(), 2 * List()->frameWidth() + bar + Rows() * row);
     }
 
     LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -81,6 +83,15 @@ struct ListBox : Control {
         List()->setCurrentRow(-1);
         delete List()->takeItem(line);
         return List()->count();
+    }
+
+    // Logical pixels of the border and the bar.
+    int Around() const {
+        return 2 * border + (extent == 0 ? 0 : scrollBarExtent);
+    }
+    int Rows() const {
+        const RECT area = Control::Area();
+        return (area.bottom - area.top - Around()) / rowHeight;
     }
 
     LRESULT Select(int line) {
