@@ -1,6 +1,5 @@
 #include "platform/qt/controls/dialog_look.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtWidgets/QStyleFactory>
 #include <algorithm>
 #include <utility>
@@ -77,10 +76,11 @@ QString RadioButtonRadius(double magnification) {
 }
 
 void SetLengths(QString& text, double magnification) {
-    const QRegularExpression length("\\b(\\d+)lp\\b");
-    for (auto found = length.match(text); found.hasMatch(); found = length.match(text)) {
-        const int pixels = Pixels(found.captured(1).toInt(), magnification);
-        text.replace(found.capturedStart(), found.capturedLength(), QString("%1px").arg(pixels));
+    constexpr int longest = 99;
+    // From the longest on: "44lp" ends with "4lp".
+    for (int length = longest; length > 0; --length) {
+        text.replace(QString("%1lp").arg(length),
+                     QString("%1px").arg(Pixels(length, magnification)));
     }
 }
 

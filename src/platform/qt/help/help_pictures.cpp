@@ -34,8 +34,5 @@ void HelpPictures::drawObject(QPainter* painter, const QRectF& place, QTextDocum
     const QByteArray file = format.toImageFormat().name().toLatin1();
     QImage picture = RenderArt(file.constData(), (size * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
-    // On a whole device pixel, so that no edge is blurred.
-    const QTransform toDevice = painter->deviceTransform();
-    const QPointF corner = toDevice.map(place.topLeft()).toPoint();
-    painter->drawImage(toDevice.inverted().map(corner), picture);
+    painter->drawImage(place.topLeft(), picture);
 }

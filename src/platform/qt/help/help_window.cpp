@@ -5,6 +5,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
+#include <QtGui/QWindow>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
@@ -61,7 +62,12 @@ HelpWindow::HelpWindow() {
     column->addWidget(page);
     AddTools(bar);
     PlaceBesideGame(em);
-    Host().installEventFilter(this);
+    // Without the game the help goes, too.
+    connect(Host().windowHandle(), &QWindow::visibleChanged, this, [this](bool shown) {
+        if (!shown) {
+            hide();
+        }
+    });
 }
 
 void HelpWindow::AddTools(QToolBar* bar) {
@@ -136,13 +142,6 @@ void HelpWindow::closeEvent(QCloseEvent* event) {
     if (isActiveWindow() && Host().isVisible()) {
         Host().activateWindow();
     }
-}
-
-bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Hide && !event->spontaneous()) {
-        close();
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 bool ShowHelp(const QString& chapter) {

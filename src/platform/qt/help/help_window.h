@@ -18,8 +18,6 @@ protected:
     // What the page does not take for itself.
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    // Watches the game's window: without it the help goes, too.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void AddTools(QToolBar* bar);

@@ -11,29 +11,18 @@
 
 namespace {
 
-bool IsInput(QEvent::Type type) {
-    switch (type) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::MouseMove:
-        case QEvent::Wheel:
-        case QEvent::ContextMenu:
-        case QEvent::TouchBegin:
-        case QEvent::TouchUpdate:
-        case QEvent::TouchEnd:
-        case QEvent::TabletPress:
-        case QEvent::TabletMove:
-        case QEvent::TabletRelease:
-        case QEvent::NativeGesture:
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-        case QEvent::ShortcutOverride:
+bool IsInput(const QEvent& event) {
+    switch (event.type()) {
+        // What a button under the pointer looks like is none.
+        case QEvent::Enter:
+        case QEvent::HoverEnter:
+        case QEvent::HoverMove:
+        case QEvent::HoverLeave: return false;
         case QEvent::Shortcut:
         case QEvent::InputMethod:
         case QEvent::DragEnter:
         case QEvent::Drop: return true;
-        default: return false;
+        default: return event.isInputEvent();
     }
 }
 
@@ -45,7 +34,7 @@ public:
         QCoreApplication::instance()->installEventFilter(this);
     }
     bool eventFilter(QObject*, QEvent* event) override {
-        return IsInput(event->type());
+        return IsInput(*event);
     }
 };
 
