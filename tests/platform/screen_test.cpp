@@ -1,94 +1,276 @@
-// The screen around the program's window: menu bar, popups, input panel, boxes and the guard
-// against taps that were meant for something else.
-#include <gtest/gtest.h>
-
+// The screen around the program's window: its furniture - title bar, menu bar and soft input
+// panel - beside a second, slow drawing of it, popups, boxes, windows and the guard against taps
+// that were meant for something else.
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QThread>
+#include <QtCore/QTimer>
+#include <QtGui/QHelpEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QToolTip>
+#include <cmath>
 
-#include "platform/dialogs.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/host/host_window.h"
+#include "platform/qt/input/hold_cue.h"
 #include "platform/qt/input/tap_guard.h"
-#include "platform/qt/screen/soft_input_panel.h"
+#include "platform/qt/look/svg.h"
+#include "platform/qt/screen/bar_button.h"
 #include "platform/qt/window/window.h"
-#include "platform/text.h"
+#include "support/dialogs.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 
 namespace {
 
-class MenuBarKeys : public PlayedBoard {
-protected:
-    // The headless screen does not see that a window which was hidden is active again; another
-    // one that comes and goes makes it look.
-    MenuBarKeys() {
-        QWidget other;
-        other.show();
-        handheld->Settle();
-        other.hide();
-        Host().activateWindow();
-        handheld->Settle();
+struct PanelKey {
+    QString plain;
+    QString shifted;
+    int code;
+    QRectF place;
+};
+
+// First the two Shift keys, then those that type nothing, then Space.
+std::vector<PanelKey> PanelKeys() {
+    std::vector<PanelKey> keys;
+    const auto add = [&keys](int left, int row, int width, QString plain, QString shifted,
+                             int code) {
+        keys.push_back({plain, shifted, code, QRectF(left, row * 16, width, 16)});
+    };
+    add(0, 3, 30, "Shift", "Shift", Qt::Key_Shift);
+    add(210, 3, 30, "Shift", "Shift", Qt::Key_Shift);
+    add(216, 0, 24, "\u2190", "\u2190", Qt::Key_Backspace);
+    add(216, 2, 24, "\u21B5", "\u21B5", Qt::Key_Return);
+    add(168, 4, 18, "\u25C0", "\u25C0", Qt::Key_Left);
+    add(186, 4, 18, "\u25B2", "\u25B2", Qt::Key_Up);
+    add(204, 4, 18, "\u25BC", "\u25BC", Qt::Key_Down);
+    add(222, 4, 18, "\u25B6", "\u25B6", Qt::Key_Right);
+    add(48, 4, 120, " ", " ", Qt::Key_Space);
+    const char* const rows[] = {"1!2@3#4$5%6^7&8*9(0)-_=+", "qQwWeErRtTyYuUiIoOpP[{]}",
+                                "aAsSdDfFgGhHjJkKlL;:'\"", "zZxXcCvVbBnNmM,<.>/?", "`~\\|"};
+    for (int row = 0; row < 5; ++row) {
+        for (int i = 0; rows[row][i] != 0; i += 2) {
+            add(std::array{0, 12, 18, 30, 12}[std::size_t(row)] + i * 9, row, 18,
+                QChar(rows[row][i]), QChar(rows[row][i + 1]), std::toupper(rows[row][i]));
+        }
     }
-    static std::string FocusedButton() {
-        QWidget* focus = Host().focusWidget();
-        return focus == nullptr ? "" : focus->toolTip().toStdString();
+    return keys;
+}
+
+// What differs from one moment to another: the button and the key by their places.
+struct Moment {
+    int focusedButton = -1;
+    bool panelUp = false;
+    bool shift = false;
+    int pressedKey = -1;
+    bool inDialog = false;
+};
+
+class PlainScreen {
+public:
+    QImage Paint(const Moment& moment, const QImage& client) {
+        image.fill(0x1B2229);
+        painter.translate(std::floor((image.width() - 240 * scale) / 2),
+                          std::floor((image.height() - 320 * scale) / 2));
+        painter.drawImage(0, At(26), client);
+        PaintTitle(moment);
+        PaintBar(moment);
+        painter.translate(0, At(214));
+        PaintPanel(moment);
+        painter.end();
+        return image;
+    }
+
+private:
+    int At(double logical) const {
+        return qRound(logical * scale);
+    }
+    QRect Area(int left, int top, int right, int bottom) const {
+        return QRect(QPoint(At(left), At(top)), QPoint(At(right) - 1, At(bottom) - 1));
+    }
+    void Write(const QRect& box, int place, const QString& text, int em, bool bold, QRgb color) {
+        QFont font({"Liberation Sans", "DejaVu Sans"}, -1, bold ? QFont::Bold : QFont::Normal);
+        font.setPixelSize(At(em));
+        painter.setFont(font);
+        painter.setPen(QColor(color));
+        painter.drawText(box, place, text);
+    }
+    void Cap(const QRect& area, double radius, QRgb color) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(color));
+        painter.drawRoundedRect(area, radius, radius);
+    }
+    void PaintTitle(const Moment& moment) {
+        const QRect bar = Area(0, 0, 240, 26);
+        painter.fillRect(bar, QColor(blue));
+        Write(bar.adjusted(int(8 * scale), 0, 0, 0), Qt::AlignVCenter,
+              moment.inDialog ? "About Quadrel" : "Quadrel", 13, true, 0xFFFFFF);
+        if (moment.inDialog) {
+            const QRect pill = bar.adjusted(At(240) - At(36), At(4), -At(4), -At(4));
+            Cap(pill, pill.height() / 2.0, 0xFFFFFF);
+            Write(pill, Qt::AlignCenter, "OK", 11, true, ink);
+        }
+    }
+    void PaintBar(const Moment& moment) {
+        painter.fillRect(Area(0, 294, 240, 320), QColor(0xE9ECEF));
+        painter.fillRect(0, At(294), At(240), std::max(1, int(scale)), QColor(0xA9B2BA));
+        int left = 0;
+        for (const QString picture : {"main", "check", "hint", "open", "clues", "size", "direction",
+                                      "keyboard", "about", "sip"}) {
+            QRect button = Area(left, 294, left + 24, 320);
+            if (picture == "sip") {
+                button.setLeft(At(240) - At(24));
+                painter.fillRect(moment.panelUp ? button : QRect(), QColor(lit));
+            }
+            if (left == moment.focusedButton * 24) {
+                const int width = std::max(1, At(1));
+                painter.setPen(
+                    QPen(QColor(blue), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+                painter.drawRect(QRectF(button).adjusted(width, width, -width, -width));
+            }
+            const QSize free = button.size() - QSize(At(16), At(16));
+            painter.drawImage(button.topLeft() + QPoint(free.width() / 2, free.height() / 2),
+                              RenderSvg(":/art/menu_" + picture + ".svg", {At(16), At(16)}));
+            left += 24;
+        }
+    }
+    void PaintPanel(const Moment& moment) {
+        painter.fillRect(moment.panelUp ? Area(0, 0, 240, 80) : QRect(), QColor(0xC6CDD4));
+        int index = 0;
+        for (const PanelKey& key : moment.panelUp ? PanelKeys() : std::vector<PanelKey>()) {
+            const QRectF space = key.place.adjusted(0.75, 0.75, -0.75, -0.75);
+            const QRect cap = QRectF(space.topLeft() * scale, space.size() * scale).toRect();
+            const bool isLit = index == moment.pressedKey || (moment.shift && index < 2);
+            Cap(cap, 2 * scale, isLit ? lit : index < 9 ? 0xE3E8EC : 0xFFFFFF);
+            Write(cap, Qt::AlignCenter, moment.shift ? key.shifted : key.plain, index < 2 ? 8 : 10,
+                  false, ink);
+            ++index;
+        }
+    }
+
+    static constexpr QRgb blue = 0x2F6DB5;
+    static constexpr QRgb lit = 0xC3D6EC;
+    static constexpr QRgb ink = 0x22303C;
+    QImage image{Host().size(), QImage::Format_RGB32};
+    const double scale = std::min(image.width() / 240.0, image.height() / 320.0);
+    QPainter painter{&image};
+};
+
+// Takes what is typed from the program, and looks at the screen meanwhile.
+struct TypedKeys : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) {
+            return false;
+        }
+        look();
+        const auto* key = static_cast<QKeyEvent*>(event);
+        keys.emplace_back(key->key(), key->text().toStdString(), key->modifiers().toInt());
+        return true;
+    }
+
+    std::function<void()> look;
+    std::vector<std::tuple<int, std::string, int>> keys;
+};
+
+class Screen : public PlayedBoard {
+protected:
+    // The headless screen does not see that a window which was hidden is active again.
+    Screen() {
+        QApplication::setActiveWindow(&Host());
+    }
+    ~Screen() override {
+        handheld->Resize(1);
+    }
+    void ExpectLook(const Moment& moment) {
+        const QImage screen = handheld->Screen().convertToFormat(QImage::Format_RGB32);
+        const QImage plain = PlainScreen().Paint(moment, handheld->Client());
+        const QRect compared = moment.inDialog ? QRect(0, 0, 720, 98) : screen.rect();
+        EXPECT_EQ(screen.copy(compared), plain.copy(compared));
     }
     void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         PressFocusedKey(*handheld, key, modifiers);
     }
 };
 
-TEST_F(MenuBarKeys, GoAroundTheButtonsThatCanBePressedAndBackToTheGame) {
-    std::vector<std::string> way = {"Main Menu",
-                                    "Checks the puzzle",
-                                    "Display a hint",
-                                    "Select a new puzzle",
-                                    "Open the clue list",
-                                    "Puzzle magnification",
-                                    "Toggle clues across / down",
-                                    "Display Keyboard",
-                                    "About Quadrel",
-                                    "Keyboard"};
-    for (int step : {Qt::Key_Right, Qt::Key_Left}) {
-        for (int key : {Qt::Key_F10, Qt::Key_Alt}) {
-            Key(key);
-            for (const std::string& button : way) {
-                EXPECT_EQ(FocusedButton(), button);
-                Key(step);
-            }
-            EXPECT_EQ(FocusedButton(), "Main Menu");
-            Key(step == Qt::Key_Left ? int{Qt::Key_Escape} : key);
-            EXPECT_EQ(FocusedButton(), "");
+// Every key is tapped at one of the sizes, without Shift and with it.
+TEST_F(Screen, LooksPlainAndThePanelTypesWhatItsKeysShow) {
+    const std::vector<PanelKey> keys = PanelKeys();
+    int first = 0;
+    for (const QSize& window : {QSize(240, 320), QSize(329, 440), QSize(720, 1000)}) {
+        Host().resize(window);
+        handheld->Settle();
+        Moment moment;
+        ExpectLook(moment);
+        handheld->PressPanelButton();
+        moment.panelUp = true;
+        TypedKeys typed;
+        typed.look = [&] { ExpectLook(moment); };
+        MainWindow->widget->installEventFilter(&typed);
+        const auto tap = [&](int index) {
+            const PanelKey& key = keys[std::size_t(index)];
+            const QString text = index < 8 ? "" : moment.shift ? key.shifted : key.plain;
+            const std::tuple sent(key.code, text.toStdString(), moment.shift ? 0x02000000 : 0);
+            moment.pressedKey = index;
+            handheld->TapPanel(key.place.center().x(), key.place.center().y());
+            EXPECT_EQ(std::exchange(typed.keys, {}), decltype(typed.keys)(index < 2 ? 0 : 2, sent));
+            moment.pressedKey = -1;
+            moment.shift = index < 2 && !moment.shift;
+            ExpectLook(moment);
+        };
+        for (int index = first++; index < int(keys.size()); index += 3) {
+            tap(index);
+            tap(index % 2);  // Shift
+            tap(index);
         }
-        std::reverse(way.begin() + 1, way.end());
+        MainWindow->widget->removeEventFilter(&typed);
+        handheld->PressPanelButton();
     }
+    const auto open = [this] { handheld->PressButton("About Quadrel"); };
+    UseDialog(*handheld, open, [this](OpenDialog&) { ExpectLook({.inDialog = true}); });
+}
+
+TEST_F(Screen, TipsStandAboveTheirButtons) {
+    handheld->Resize(2);
+    for (auto* button : Host().findChildren<BarButton*>()) {
+        QHelpEvent event(QEvent::ToolTip, QPoint(), button->mapToGlobal(QPoint()));
+        QCoreApplication::sendEvent(button, &event);
+        EXPECT_EQ(QToolTip::text(), button->toolTip());
+        EXPECT_EQ(QToolTip::font().pixelSize(), 20);
+        for (const QWidget* tip : QApplication::topLevelWidgets()) {
+            EXPECT_TRUE(!tip->inherits("QTipLabel") ||
+                        tip->geometry().bottom() < button->mapToGlobal(QPoint()).y());
+        }
+    }
+    QToolTip::hideText();
 }
 
 // Faults: keys that are not the bar's are lost, or leave the focus there.
-TEST_F(MenuBarKeys, OthersAreTheGames) {
-    Play(lopsidedBoard, smallSize);
-    Key(Qt::Key_F10);
-    Key(Qt::Key_K);
-    EXPECT_EQ(PlayerLetters()[0], 'K');
-    Key(Qt::Key_F10);
-    for (int step = 0; step < 6; ++step) {
-        Key(Qt::Key_Right);
+TEST_F(Screen, KeysGoAroundTheButtonsThatCanBePressedAndOthersAreTheGames) {
+    for (const auto& [opening, step, closing] :
+         {std::tuple(Qt::Key_F10, 1, Qt::Key_F10), {Qt::Key_Alt, 9, Qt::Key_Escape}}) {
+        Key(opening);
+        for (int index = 0; index <= step * 10; index += step) {
+            ExpectLook({.focusedButton = index % 10});
+            Key(step == 1 ? Qt::Key_Right : Qt::Key_Left);
+        }
+        Key(closing);
+        ExpectLook({});
     }
-    Key(Qt::Key_Return);
-    EXPECT_EQ(Direction, 1);
-    EXPECT_EQ(FocusedButton(), "");
+    for (Qt::Key key : {Qt::Key_F10, Qt::Key_K, Qt::Key_F10, Qt::Key_Left, Qt::Key_Left,
+                        Qt::Key_Left, Qt::Key_Left, Qt::Key_Return}) {
+        Key(key);
+    }
+    EXPECT_EQ(std::pair(PlayerLetters()[0], Direction), std::pair('K', 1));
+    ExpectLook({});
     Key(Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(handheld->Running());
 }
 
 // What a menu bar's arrows do everywhere: the first item is selected, and beside the submenus they
 // go on to the neighbouring popups, around the ends.
-TEST_F(MenuBarKeys, GoFromPopupToPopupWhichCloseWhenTheWindowIsResized) {
+TEST_F(Screen, KeysGoFromPopupToPopupWhichCloseWhenTheWindowIsResized) {
     QStringList selected;
     const NextMenu next([&selected](QMenu*) {
         for (int key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left}) {
@@ -106,38 +288,8 @@ TEST_F(MenuBarKeys, GoFromPopupToPopupWhichCloseWhenTheWindowIsResized) {
               (QStringList{"Puzzles", "Small", "Puzzles", "Available", "Current Letter"}));
 }
 
-using Screen = PlayedBoard;
-
-// Each key that types, plain and after Shift.
-TEST_F(Screen, PanelTypesWhatItsKeysShow) {
-    const std::pair<int, std::string> rows[] = {{0, "1!2@3#4$5%6^7&8*9(0)-_=+"},
-                                                {12, "qQwWeErRtTyYuUiIoOpP[{]}"},
-                                                {18, "aAsSdDfFgGhHjJkKlL;:'\""},
-                                                {30, "zZxXcCvVbBnNmM,<.>/?"},
-                                                {12, "`~\\|"}};
-    QLineEdit edit(&Host());
-    edit.show();
-    edit.setFocus();
-    handheld->PressPanelButton();
-    auto* panel = Host().findChild<SoftInputPanel*>();
-    const auto topRow = [panel] { return panel->grab(QRect(0, 0, 200, 16)).toImage(); };
-    std::string all;
-    for (int row = 0; row < 5; ++row) {
-        const auto& [left, characters] = rows[row];
-        all += characters;
-        for (std::size_t i = 0; i < characters.size(); ++i) {
-            if (i % 2 == 1) {
-                const QImage plain = topRow();
-                handheld->TapPanel(row % 2 == 0 ? 10 : 230, 56);
-                EXPECT_NE(topRow(), plain);
-            }
-            handheld->TapPanel(left + 9 + static_cast<int>(i / 2) * 18, row * 16 + 8);
-        }
-    }
-    EXPECT_EQ(edit.text().toStdString(), all);
-}
-
 TEST_F(Screen, BoxAnswersYesOnlyWhenItIsMeant) {
+    const std::u16string text = u"A question that is too long for one line, with two\nparts?";
     const std::tuple<std::vector<Qt::Key>, UINT, int> cases[] = {
         {{Qt::Key_Return}, 0, IDYES},
         {{Qt::Key_Return}, MB_DEFBUTTON2, IDNO},
@@ -157,82 +309,87 @@ TEST_F(Screen, BoxAnswersYesOnlyWhenItIsMeant) {
                 QCoreApplication::processEvents();
             }
         });
-        const std::u16string text = u"A question that is too long for one line, with two\nparts?";
         EXPECT_EQ(MessageBoxW(MainWindow, text.c_str(), u"Question", MB_YESNO | style), expected)
             << keys[0];
         EXPECT_EQ(TakeShownMessages(), (std::vector<ShownMessage>{{text, u"Question"}}));
     }
 }
 
-class TapGuard : public PlayedBoard {
-protected:
-    TapGuard() {
-        Play(BoardRows(12, std::string(12, 'A')), smallSize);
-        OpenBox(0);
-    }
+TEST_F(Screen, WindowsAreToldWhatChangesAndCalledForward) {
+    static std::vector<std::pair<UINT, WPARAM>> told;
+    WNDCLASSW example;
+    example.lpszClassName = u"Example";
+    example.lpfnWndProc = [](HWND, UINT message, WPARAM wParam, LPARAM) -> LRESULT {
+        told.emplace_back(message, wParam);
+        return 0;
+    };
+    RegisterClassW(&example);
+    HWND window = CreateWindowExW(0, u"Example", u"A window", WS_VISIBLE, CW_USEDEFAULT,
+                                  CW_USEDEFAULT, 99, 50, nullptr, nullptr, nullptr, nullptr);
+    UpdateWindow(window);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    handheld->Settle();
+    EXPECT_FALSE(Host().isActiveWindow());
+    EXPECT_EQ(FindWindowW(u"Example", u"A window"), window);
+    SetForegroundWindow(reinterpret_cast<HWND>(reinterpret_cast<std::uintptr_t>(window) | 1));
+    handheld->Settle();
+    EXPECT_TRUE(Host().isActiveWindow());
+    DestroyWindow(window);
+    EXPECT_EQ(told, (decltype(told){
+                        {WM_CREATE, 0}, {WM_ACTIVATE, WA_ACTIVE}, {WM_PAINT, 0}, {WM_DESTROY, 0}}));
+}
 
-    // On the way that a tap takes from the host; the time is in milliseconds. True when it counts.
-    bool Tap(POINT point, quint64 time) {
-        const auto state = [] { return std::tuple(CursorRow, CursorCol, Direction); };
-        const auto before = state();
-        const RECT frame = MainWindow->frame;
-        const LONG x = frame.left + point.x;
-        const LONG y = frame.top + point.y;
-        const QPointF place = ExactPlace({x, y, x + 1, y + 1}).center();
-        for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-            QMouseEvent event(type, place, Host().mapToGlobal(place), Qt::LeftButton, held,
-                              Qt::NoModifier);
-            event.setTimestamp(time + 1000000);
-            QCoreApplication::sendEvent(Host().windowHandle(), &event);
-        }
-        handheld->Settle();
-        return state() != before;
-    }
-    // And closes it; the eyes need that time to see what is there now.
-    void OpenBox(int milliseconds) {
-        blinkMilliseconds = milliseconds;
-        MessageBoxW(MainWindow, u"Text", u"Title", MB_OK);
-        TakeShownMessages();
-        QThread::msleep(2);
-    }
+TEST_F(Screen, ARingGrowsAroundAHeldStylus) {
+    handheld->Resize(3);
+    QRect place;
+    QTimer::singleShot(550, [&place] {
+        auto* cue = Host().findChild<HoldCue*>();
+        place = cue->geometry();
+        EXPECT_EQ(cue->grab().toImage().pixel(48, 48 - 13 * 3), 0xFF2F6DB5);
+    });
+    handheld->Hold(100, 70);
+    EXPECT_EQ(place, QRectF(301.5 - 48.6, 289.5 - 48.6, 97.2, 97.2).toRect());
+}
 
+// On the way that taps take from the host; the time is in milliseconds. Before some a box is opened
+// and closed, and the eyes have that many milliseconds to see what is there now.
+TEST_F(Screen, QuickTapsCountOnTheSameGroundOnly) {
+    const QScopedValueRollback<int> usualBlink{blinkMilliseconds};
+    Play(BoardRows(12, std::string(12, 'A')), smallSize);
+    constexpr int never = 3'600'000;
+    constexpr int noBox = -1;
     const POINT first{30, 30};
     const POINT beside{34, 27};
     const POINT away{60, 100};
-    QScopedValueRollback<int> blink{blinkMilliseconds};
-};
-
-TEST_F(TapGuard, QuickTapsCountOnTheSameGroundOnly) {
-    EXPECT_TRUE(Tap(first, 1000));
-    EXPECT_TRUE(Tap(first, 1060));
-    EXPECT_TRUE(Tap(first, 1120));
-    EXPECT_TRUE(Tap(away, 1180));
-    EXPECT_TRUE(Tap(first, 1200));
-    OpenBox(0);
-    EXPECT_FALSE(Tap(beside, 1690));
-    EXPECT_FALSE(Tap(first, 2150));
-    EXPECT_TRUE(Tap(first, 2700));
-}
-
-TEST_F(TapGuard, ATapElsewhereCountsAsSoonAsTheNewGroundCanBeSeen) {
-    EXPECT_TRUE(Tap(first, 1000));
-    OpenBox(3'600'000);
-    EXPECT_FALSE(Tap(away, 1100));
-    OpenBox(0);
-    EXPECT_TRUE(Tap(away, 3000));
-}
-
-TEST(Text, OfPuzzlesIsWidenedByWhatItsBytesAre) {
-    const std::pair<std::string, std::u16string> cases[] = {
-        {"na\xC3\xAFve", u"na\u00EFve"},
-        {"\x93quoted\x94 na\xEFve \x85 \x80", u"\u201Cquoted\u201D na\u00EFve \u2026 \u20AC"},
-        {"\xE2\x82\xAC and \xF0\x9F\x98\x80", u"\u20AC and \U0001F600"},
-        {"overlong \xC0\xAF", u"overlong \u00C0\u00AF"},
-        {"surrogate \xED\xA0\x80", u"surrogate \u00ED\u00A0\u20AC"},
-        {"both \xC3\xAF and \xEF", u"both \u00C3\u00AF and \u00EF"}};
-    for (const auto& [bytes, wide] : cases) {
-        EXPECT_EQ(WidenText(bytes), wide) << bytes;
+    for (const auto& [blink, point, time, counts] : {std::tuple(0, first, 1000, true),
+                                                     {noBox, first, 1060, true},
+                                                     {noBox, first, 1120, true},
+                                                     {noBox, away, 1180, true},
+                                                     {noBox, first, 1200, true},
+                                                     {0, beside, 1690, false},
+                                                     {noBox, first, 2150, false},
+                                                     {noBox, first, 2700, true},
+                                                     {never, away, 2800, false},
+                                                     {0, away, 5000, true}}) {
+        if (blink != noBox) {
+            blinkMilliseconds = blink;
+            MessageBoxW(MainWindow, u"Text", u"Title", MB_OK);
+            TakeShownMessages();
+            QThread::msleep(2);
+        }
+        const auto before = std::tuple(CursorRow, CursorCol, Direction);
+        const RECT pixel{point.x, point.y, point.x + 1, point.y + 1};
+        const QPointF place = ExactPlace(OnScreen(MainWindow, pixel)).center();
+        for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, place, Host().mapToGlobal(place), Qt::LeftButton,
+                              Qt::LeftButton, Qt::NoModifier);
+            event.setTimestamp(quint64(time) + 1000000);
+            QCoreApplication::sendEvent(Host().windowHandle(), &event);
+        }
+        handheld->Settle();
+        EXPECT_EQ(before != std::tuple(CursorRow, CursorCol, Direction), counts) << time;
     }
 }
 

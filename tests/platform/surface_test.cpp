@@ -1,5 +1,6 @@
 // A surface renders late, only what changed, and forgets what is hidden. All of that must never
-// show: against a picture that draws every mark at once and forgets nothing.
+// show: against a picture that draws every mark at once and forgets nothing. And what a text mark
+// shows, by rules that hold for any text.
 #include "platform/qt/surface/surface.h"
 
 #include <gtest/gtest.h>
@@ -10,10 +11,15 @@
 
 #include "platform/drawing.h"
 #include "platform/qt/surface/mark_painter.h"
+#include "support/handheld.h"
 
 namespace {
 
-constexpr QRgb white = 0xFFFFFFFF;
+constexpr double ratios[] = {1, 1.37, 2, 2.5, 3};
+constexpr UINT centred = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+constexpr UINT formats[] = {centred, DT_WORDBREAK, 0, DT_SINGLELINE};
+constexpr QRgb paper = 0xFFFFFFFF;
+constexpr QRgb under = 0xFF00FF00;
 
 struct PlainPicture {
     int width = 200;
@@ -22,7 +28,7 @@ struct PlainPicture {
 
     QImage Image(const Scale& scale) const {
         QImage image(scale.At(width), scale.At(height), QImage::Format_RGB32);
-        image.fill(white);
+        image.fill(paper);
         QPainter painter(&image);
         for (const auto& step : steps) {
             step(painter, scale);
@@ -53,12 +59,14 @@ using Genes = std::array<int, 10>;
 class Surfaces : public testing::TestWithParam<unsigned> {
 protected:
     Surfaces() {
-        Surface::SetRatioOfAll(1);
         // Areas return with other contents, as those of cells do, and many edges fall together.
         for (RECT& area : areas) {
             const int left = Below(24) * 9 - 9;
             const int top = Below(15) * 9 - 9;
             area = {left, top, left + Below(9) * 9, top + Below(8) * 9 + Below(2)};
+        }
+        for (Genes& genes : board) {
+            genes = AnyGenes();
         }
     }
     ~Surfaces() override {
@@ -68,9 +76,6 @@ protected:
     int Below(int limit) {
         return static_cast<int>(random() % static_cast<unsigned>(limit));
     }
-    const RECT& AnyArea() {
-        return areas[static_cast<std::size_t>(Below(8))];
-    }
     Genes AnyGenes() {
         Genes genes;
         std::generate(genes.begin(), genes.end(), [this] { return Below(1000); });
@@ -78,11 +83,10 @@ protected:
     }
     Mark MarkOf(const Genes& genes) const {
         static const char16_t* const texts[] = {u"Ng", u"Nj", u"N g"};
-        static constexpr UINT formats[] = {DT_CENTER | DT_VCENTER | DT_SINGLELINE, DT_WORDBREAK, 0};
-        const auto [kind, place, ink, paper, face, bold, height, text, format, opaque] = genes;
+        const auto [kind, place, ink, ground, face, bold, height, text, format, opaque] = genes;
         RECT area = areas[static_cast<std::size_t>(place % 8)];
         const QRgb color = qRgb(ink % 4 * 80, ink % 7 * 40, 0);
-        const QRgb second = qRgb(0, paper % 4 * 80, paper % 7 * 40);
+        const QRgb second = qRgb(0, ground % 4 * 80, ground % 7 * 40);
         switch (kind % 7) {
             case 0: return FillMark{area, color};
             case 1: return FrameMark{area, color, second, QSize(6, 6) * (face % 3)};
@@ -94,16 +98,12 @@ protected:
                 return LineMark{area, color};
             case 5: return ArtMark{area, face % 2 == 0 ? "menu_main.svg" : "menu_open.svg"};
             default:
-                return TextMark{area,
-                                texts[text % 3],
-                                formats[format % 3],
-                                {FontChoice::Face(face % 2), bold % 2 == 0, height % 25 + 5.0},
-                                color,
-                                opaque % 2 == 0,
+                const FontChoice font{FontChoice::Face(face % 2), bold % 2 == 0, height % 25 + 5.0};
+                return TextMark{area,  texts[text % 3], formats[format % 3],
+                                font,  color,           opaque % 2 == 0,
                                 second};
         }
     }
-
     void Draw(const Mark& mark) {
         surface.Draw(mark);
         plain.Add(mark);
@@ -111,11 +111,10 @@ protected:
     void CopyOther() {
         Genes genes = AnyGenes();
         genes[4] = 0;  // no smooth corners: where an edge cuts them they are a shade different
-        const Mark mark = MarkOf(genes);
-        other.Draw(mark);
-        plainOther.Add(mark);
+        other.Draw(MarkOf(genes));
+        plainOther.Add(MarkOf(genes));
         const POINT source{Below(30) - 10, Below(30) - 10};
-        const RECT area = AnyArea();
+        const RECT area = areas[std::size_t(Below(8))];
         surface.Copy(area, other, source);
         plain.AddCopy(area, plainOther, source);
     }
@@ -127,7 +126,7 @@ protected:
             Draw(MarkOf(board[changed]));
             return;
         }
-        Draw(FillMark{{0, 0, plain.width, plain.height}, white});
+        Draw(FillMark{{0, 0, plain.width, plain.height}, paper});
         for (const Genes& genes : board) {
             Draw(MarkOf(genes));
         }
@@ -136,33 +135,32 @@ protected:
     void Scatter() {
         for (int i = 0; i < 300; ++i) {
             const int left = Below(plain.width);
-            const int top = Below(plain.height);
-            Draw(FillMark{{left, top, left + 3, top + 3}, qRgb(Below(250), 0, 0)});
+            Draw(FillMark{{left, i % 99, left + 3, i % 99 + 3}, qRgb(Below(250), 0, 0)});
         }
     }
     void Resize() {
-        const RECT before{0, 0, plain.width, plain.height};
+        plain.Add(FillMark{{plain.width, 0, 999, 999}, paper});
+        plain.Add(FillMark{{0, plain.height, 999, 999}, paper});
         plain.width += Below(2) == 0 ? 20 : -20;
         plain.height += Below(2) == 0 ? 15 : -15;
         surface.Resize(plain.width, plain.height);
-        plain.Add(FillMark{{before.right, 0, 999, 999}, white});
-        plain.Add(FillMark{{0, before.bottom, 999, 999}, white});
     }
     void ExpectRight() {
         const Scale scale = surface.PresentScale();
         const QImage expected = plain.Image(scale);
         QImage painted(expected.size(), QImage::Format_RGB32);
+        RECT area = areas[std::size_t(Below(8))];
+        ++area.right;
+        ++area.bottom;
+        QRect seen = scale.Area(area);
         if (Below(2) == 0) {
+            seen = expected.rect();
             QPainter painter(&painted);
             surface.Paint(painter);
-            EXPECT_EQ(painted, expected) << "at " << scale.ratio;
         } else {
-            RECT area = AnyArea();
-            ++area.right;
-            ++area.bottom;
-            const QRect seen = scale.Area(area);
-            EXPECT_EQ(surface.ImageWithin(area).copy(seen), expected.copy(seen)) << scale.ratio;
+            painted = surface.ImageWithin(area);
         }
+        EXPECT_EQ(painted.copy(seen), expected.copy(seen)) << "at " << scale.ratio;
     }
 
     std::mt19937 random{GetParam()};
@@ -175,8 +173,6 @@ protected:
 };
 
 TEST_P(Surfaces, ShowWhatDrawingEveryMarkWouldShow) {
-    constexpr double ratios[] = {1, 1.37, 2, 2.5, 3};
-    std::generate(board.begin(), board.end(), [this] { return AnyGenes(); });
     for (int step = 0; step < 150 && !HasFailure(); ++step) {
         SCOPED_TRACE(step);
         switch (Below(14)) {
@@ -195,5 +191,75 @@ TEST_P(Surfaces, ShowWhatDrawingEveryMarkWouldShow) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, Surfaces, testing::Range(1u, 17u));
+
+QImage Drawn(QSize size, const TextMark& mark) {
+    Surface surface(size.width(), size.height());
+    surface.Draw(mark);
+    return surface.Image();
+}
+
+QRect InkOf(const QImage& image) {
+    QRect ink;
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const QPoint place(i % image.width(), i / image.width());
+        ink |= image.pixel(place) == paper ? QRect() : QRect(place, QSize(1, 1));
+    }
+    return ink;
+}
+
+TEST(Texts, NeverLeaveTheirBoxAndHideWhatIsUnderThemOnlyWhenOpaque) {
+    const std::u16string texts[] = {u"WWWWWWWWWWWW", u"1234567",
+                                    u"Two words and \u00C5ngstr\u00F6m", u"Wj\u00C7g|\nline",
+                                    u"\x01\x7F"};
+    std::mt19937 random;
+    const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
+    for (int turn = 0; turn < 150; ++turn) {
+        const double ratio = ratios[turn % 5];
+        Surface::SetRatioOfAll(ratio);
+        const FontChoice font{FontChoice::Face::System, below(2) == 0, below(40) + 1.0};
+        const bool opaque = below(2) == 0;
+        RECT box{below(60), below(40), 0, 0};
+        box.right = box.left + below(40) - 2;
+        box.bottom = box.top + below(30) - 2;
+        const QImage image = Drawn(
+            {60, 40}, {box, texts[below(5)], formats[below(4)], font, 0xFF000000, opaque, under});
+        const QRect ink = InkOf(image);
+        EXPECT_TRUE(ink.isEmpty() || Scale{ratio}.Area(box).contains(ink)) << turn;
+        const auto* pixels = reinterpret_cast<const QRgb*>(image.constBits());
+        const auto hidden = std::count(pixels, pixels + image.sizeInBytes() / 4, under);
+        EXPECT_TRUE(opaque ? hidden > 0 || ink.width() < 8 || ink.height() < 8 : hidden == 0);
+    }
+}
+
+// Letters with two like halves, so that their ink must be centred when they are; one that was
+// enlarged would be made of squares.
+TEST(Texts, CentredSitInTheMiddleAndAreSharp) {
+    for (double ratio : {3.0, 1.0}) {
+        Surface::SetRatioOfAll(ratio);
+        for (int side = 11; side <= 41; side += 3) {
+            for (char16_t letter : std::u16string(u"AHIMOTUVWXY")) {
+                const FontChoice font{FontChoice::Face::System, true, side * 0.8};
+                const QImage image =
+                    Drawn({side, side}, {{0, 0, side, side}, {letter}, centred, font});
+                const QRect ink = InkOf(image);
+                const QPoint twice = ink.topLeft() + ink.bottomRight() - image.rect().bottomRight();
+                EXPECT_LE(std::max(std::abs(twice.x()), std::abs(twice.y())), 2) << side;
+                EXPECT_TRUE(ratio == 1 || letter != u'O' ||
+                            image.scaled(side, side).scaled(image.size()) != image);
+            }
+        }
+    }
+}
+
+TEST(Texts, BreakIntoLinesThatFitTheBox) {
+    const auto draw = [](const std::u16string& text) {
+        const FontChoice font{FontChoice::Face::System, false, 10};
+        return Drawn({100, 40}, {{1, 0, 99, 40}, text, DT_WORDBREAK, font});
+    };
+    const QImage broken = draw(u"Considerable indescribable");
+    EXPECT_EQ(broken, draw(u"Considerable\nindescribable"));
+    EXPECT_NE(broken, draw(u"Considerable"));
+    EXPECT_EQ(draw(u"a\tb\rc"), draw(u"a bc"));
+}
 
 }  // namespace
