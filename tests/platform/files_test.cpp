@@ -9,14 +9,12 @@
 
 namespace {
 
-class Files : public PlayedBoard {
-protected:
-    static HANDLE Open(const std::u16string& path, DWORD access) {
-        const DWORD disposition = access == GENERIC_READ ? OPEN_EXISTING : CREATE_ALWAYS;
-        return CreateFileW(path.c_str(), access, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
-                           nullptr);
-    }
-};
+using Files = PlayedBoard;
+
+HANDLE OpenFile(const std::u16string& path, DWORD access, DWORD disposition) {
+    return CreateFileW(path.c_str(), access, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
+                       nullptr);
+}
 
 TEST_F(Files, WhatIsNoFileCannotBeOpenedAndSaysWhy) {
     std::filesystem::create_directory(home.documents() / "folder.puz");
@@ -33,9 +31,9 @@ TEST_F(Files, WhatIsNoFileCannotBeOpenedAndSaysWhy) {
     };
     for (const auto& [path, readError, writeError] : wrong) {
         SCOPED_TRACE(NarrowPath(path));
-        EXPECT_EQ(Open(path, GENERIC_READ), INVALID_HANDLE_VALUE);
+        EXPECT_EQ(OpenFile(path, GENERIC_READ, OPEN_EXISTING), INVALID_HANDLE_VALUE);
         EXPECT_EQ(GetLastError(), readError);
-        HANDLE file = Open(path, GENERIC_WRITE);
+        HANDLE file = OpenFile(path, GENERIC_WRITE, CREATE_ALWAYS);
         EXPECT_EQ(file == INVALID_HANDLE_VALUE ? GetLastError() : !CloseHandle(file), writeError);
     }
 }
@@ -50,7 +48,8 @@ TEST_F(Files, AWriteShowsOnlyWhenAllOfItIsOnTheDisk) {
         for (bool diskIsFull : {true, false}) {
             SCOPED_TRACE(size);
             const auto full = diskIsFull ? std::make_unique<NoSpace>() : nullptr;
-            HANDLE file = Open(u"\\Program Files\\Quadrel\\quadrel.dat", GENERIC_WRITE);
+            HANDLE file =
+                OpenFile(u"\\Program Files\\Quadrel\\quadrel.dat", GENERIC_WRITE, CREATE_ALWAYS);
             DWORD count = 0;
             const std::string bytes(size, 'n');
             const BOOL written = WriteFile(file, bytes.data(), size, &count, nullptr);
@@ -75,7 +74,7 @@ TEST_F(Files, NamesOfEveryLanguageAreRememberedWhileTheyFit) {
     const QString longest = '/' + QString(256, 'a');  // of 257 bytes
     for (const QString end : {"aa", "\u00E9"}) {
         const QString path = longest + end;
-        EXPECT_EQ(ToDevicePath(path), path.mid(0).replace('/', '\\').toStdU16String());
+        EXPECT_EQ(ToDevicePath(path), (u"\\" + path.mid(1).toStdU16String()));
         EXPECT_FALSE(ToDevicePath(path + 'a'));
     }
 }

@@ -1,10 +1,6 @@
 #include "platform/process.h"
 
-#include <gtest/gtest.h>
-
-#include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
-#include <QtCore/QUrl>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTextBrowser>
@@ -17,25 +13,20 @@
 
 namespace {
 
-class StartedHelp : public PlayedBoard {
-protected:
-    static QTextBrowser* Page() {
-        return ShownHelpWindows().at(0)->findChild<QTextBrowser*>();
-    }
-    void Open(const QString& chapter) {
-        const std::u16string line = ("OvelQuadrel.htm" + chapter).toStdU16String();
-        EXPECT_TRUE(CreateProcessW(u"PegHelp.exe", line.c_str()));
-        handheld->Settle();
-    }
-};
+using StartedHelp = PlayedBoard;
+
+QTextBrowser* OpenHelp(const QString& chapter = "") {
+    const std::u16string line = ("OvelQuadrel.htm" + chapter).toStdU16String();
+    EXPECT_TRUE(CreateProcessW(u"PegHelp.exe", line.c_str()));
+    QCoreApplication::processEvents();
+    return ShownHelpWindows().at(0)->findChild<QTextBrowser*>();
+}
 
 TEST_F(StartedHelp, BringsEveryChapterToTheTopOfOneWindowAndLinksThemAll) {
-    Open("");
-    HelpWindow* first = ShownHelpWindows().at(0);
+    QTextBrowser* page = OpenHelp();
     std::map<QString, int> chapters;  // where their headings begin
     QStringList links;
-    auto* document = Page()->document();
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+    for (QTextBlock block = page->document()->begin(); block.isValid(); block = block.next()) {
         for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
             const QTextCharFormat format = piece.fragment().charFormat();
             for (const QString& name : format.anchorNames()) {
@@ -51,17 +42,17 @@ TEST_F(StartedHelp, BringsEveryChapterToTheTopOfOneWindowAndLinksThemAll) {
     }
     // The last chapters are shorter than the window, and it may be resized.
     for (const QSize size : {QSize(500, 700), QSize(260, 400), QSize(1500, 1600)}) {
-        first->resize(size);
+        page->window()->resize(size);
         for (const auto& [name, position] : chapters) {
             EXPECT_TRUE(links.contains(name) || name == "#contents") << name.toStdString();
-            Open(name);
-            QTextCursor heading(document);
+            EXPECT_EQ(OpenHelp(name), page) << "another window";
+            QTextCursor heading(page->document());
             heading.setPosition(position);
-            const int top = Page()->cursorRect(heading).top();
+            const int top = page->cursorRect(heading).top();
             EXPECT_EQ(std::clamp(top, 0, 20), top) << name.toStdString() << " at " << size.width();
         }
     }
-    EXPECT_EQ(ShownHelpWindows(), std::vector<HelpWindow*>{first});
+    EXPECT_EQ(ShownHelpWindows().size(), 1u);
     handheld->Close();
     EXPECT_TRUE(ShownHelpWindows().empty());
 }
@@ -69,10 +60,10 @@ TEST_F(StartedHelp, BringsEveryChapterToTheTopOfOneWindowAndLinksThemAll) {
 TEST_F(StartedHelp, LeavesThePanelAndWhenItIsClosedTheKeysToTheGame) {
     Play(squareBoard, smallSize);
     handheld->PressPanelButton();
-    Open("");
+    QTextBrowser* page = OpenHelp();
     handheld->TapPanel(12 + 9, 16 + 8);
     EXPECT_EQ(PlayerLetters()[0], 'Q');
-    SendKey(Page(), Qt::Key_Escape);
+    SendKey(page, Qt::Key_Escape);
     handheld->Settle();
     EXPECT_TRUE(ShownHelpWindows().empty());
     EXPECT_EQ(QApplication::focusWidget(), MainWindow->widget);
@@ -86,8 +77,7 @@ TEST_F(StartedHelp, SendsAddressesToTheDesktopsBrowserAndTellsThemWhenThereIsNon
     for (const std::string exitCode : {"0", "3"}) {
         WriteBytes(script, "#!/bin/sh\necho \"$@\" >" + opened.string() + "\nexit " + exitCode);
         std::filesystem::permissions(script, std::filesystem::perms::owner_all);
-        Open("");
-        emit Page()->anchorClicked(QUrl("https://www.quadrel.example.com/"));
+        emit OpenHelp()->anchorClicked(QUrl("https://www.quadrel.example.com/"));
         bool told = exitCode == "0";
         DoDuringNextMessageBox([&told] { told = true; });
         // The shell makes the file before it writes into it.
