@@ -75,6 +75,7 @@ TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
     constexpr COLORREF cream = RGB(250, 240, 220);
     Use([&](OpenDialog& dialog) {
         PickNextColor(green, true);
+        CompareNextBox("Color chooser");
         dialog.Tap(controlSquareColor);
         PickNextColor(cream, true);
         dialog.Tap(controlBackgroundColor);

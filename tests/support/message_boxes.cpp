@@ -12,12 +12,14 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QSplitter>
 #include <deque>
 #include <ostream>
 #include <utility>
 
 #include "platform/dialogs.h"
 #include "platform/text.h"
+#include "support/looks.h"
 
 namespace {
 
@@ -32,6 +34,7 @@ std::vector<ShownChooser> shownChoosers;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
 std::function<void()> duringNextBox;
+std::string comparedName;
 
 template <typename Value>
 Value TakeNext(std::deque<Value>& planned, Value otherwise) {
@@ -74,6 +77,10 @@ void Answer(QDialog* box) {
 }
 
 void Answer(QFileDialog* dialog) {
+    EXPECT_EQ(dialog->nameFilters(), QStringList("Puzzle files (*.puz *.PUZ)"));
+    EXPECT_EQ(dialog->sidebarUrls().size(), 3);
+    const QList<int> widths = dialog->findChild<QSplitter*>("splitter")->sizes();
+    EXPECT_NEAR(widths[1], 2 * widths[0], dialog->width() / 10);
     shownChoosers.push_back({dialog->windowTitle().toStdU16String(),
                              dialog->directory().absolutePath().toStdString(),
                              dialog->findChild<QLineEdit*>()->text().toStdString()});
@@ -106,7 +113,12 @@ template <typename Box>
 bool AnswerIfIs(QObject* object) {
     auto* box = qobject_cast<Box*>(object);
     if (box != nullptr) {
-        QTimer::singleShot(0, box, [box] { Answer(box); });
+        QTimer::singleShot(0, box, [box] {
+            if (const std::string name = std::exchange(comparedName, {}); !name.empty()) {
+                ExpectLooksAsRecorded(box->grab().toImage(), name);
+            }
+            Answer(box);
+        });
     }
     return box != nullptr;
 }
@@ -148,6 +160,10 @@ std::vector<ShownMessage> TakeShownMessages() {
 
 void ChooseNextFile(const std::filesystem::path& file) {
     plannedFiles.push_back(file);
+}
+
+void CompareNextBox(const std::string& name) {
+    comparedName = name;
 }
 
 void PickNextColor(COLORREF color, bool accept) {

@@ -50,5 +50,8 @@ std::vector<ShownChooser> TakeShownChoosers();
 // The colour that the next colour chooser is given, and whether it is accepted or cancelled.
 void PickNextColor(COLORREF color, bool accept);
 
+// The next box, chooser or menu is compared with its picture of that name (looks.h).
+void CompareNextBox(const std::string& name);
+
 // How many popup menus were opened since the last call. Each is closed again at once.
 int TakeOpenedMenus();

@@ -26,18 +26,11 @@ struct ListBox : Control {
         return static_cast<ListWidget*>(widget.data());
     }
 
-    // Ends with a whole line, so that none is cut.
-    RECT Area() const override {
-        RECT area = Control::Area();
-        area.bottom = area.top + Around() + Rows() * rowHeight;
-        return area;
-    }
-
     void Place() override {
         Control::Place();
         const int row = qRound(rowHeight * ScreenMagnification());
         List()->SetMeasures(row, qRound(extent * ScreenMagnification()));
-        // Nor by the rounding of every line.
+        // It ends with a whole line, so that none is cut.
         const int bar = extent == 0 ? 0 : List()->horizontalScrollBar()->sizeHint().height();
         widget->resize(widget->width(), 2 * List()->frameWidth() + bar + Rows() * row);
     }
@@ -85,13 +78,9 @@ struct ListBox : Control {
         return List()->count();
     }
 
-    // Logical pixels of the border and the bar.
-    int Around() const {
-        return 2 * border + (extent == 0 ? 0 : scrollBarExtent);
-    }
     int Rows() const {
-        const RECT area = Control::Area();
-        return (area.bottom - area.top - Around()) / rowHeight;
+        const int around = 2 * border + (extent == 0 ? 0 : scrollBarExtent);
+        return (frame.bottom - frame.top - around) / rowHeight;
     }
 
     LRESULT Select(int line) {
