@@ -55,7 +55,7 @@ void ExpectReadable(const QLabel& text) {
     }
     EXPECT_LE(lines.size() * text.fontMetrics().lineSpacing(), text.height() + 1);
     EXPECT_TRUE(text.window()->rect().contains(text.geometry()));
-    EXPECT_LE(text.window()->width(), 30 * text.fontInfo().pixelSize());
+    EXPECT_LE(text.window()->width(), 32 * text.fontInfo().pixelSize());
 }
 
 // A box's text is its last label; its buttons are named by their answers.
