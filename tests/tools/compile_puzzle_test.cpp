@@ -7,7 +7,6 @@
 
 #include <cstdlib>
 #include <random>
-#include <set>
 
 #include "support/boards.h"
 #include "support/temporary_home.h"
@@ -93,7 +92,8 @@ TEST(CompiledPuzzle, HoldsEveryPartInItsPlace) {
     const std::pair<std::string, std::string> clues[] = {
         {"Cheese fan", "Cheese fan"},
         {"Crème ÿ", "Cr\350me \377"},
-        {"“Don’t” – €5 Š", "\223Don\222t\224 \226 \2005 \212"},
+        {"€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’", "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92"},
+        {"“”•–—˜™š›œžŸ", "\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F"},
         {"naïve 猫", "naïve 猫"},
         {"Ã© or â€“", "Ã© or â€“"}};
     for (const auto& [clue, bytes] : clues) {
@@ -182,14 +182,11 @@ TEST(CompileProgram, WritesWholePuzzlesOrNothing) {
     WriteBytes(home.documents() / "bad.txt", Replace(birds, "RAT", "R T"));
     WriteBytes(home.documents() / "birds.puz", std::string(9999, '!'));
     EXPECT_EQ(run("good.txt birds.puz"), 0);
-    for (const auto& [files, status] : {std::pair("bad.txt birds.puz", 1),
-                                        {"none.txt birds.puz", 1},
-                                        {"good.txt no/a.puz", 1},
-                                        {"good.txt good.txt", 1},
-                                        {"good.txt", 2}}) {
-        EXPECT_EQ(run(files), status) << files;
-    }
-    EXPECT_EQ(run("bad.txt good.puz"), 1);
+    EXPECT_EQ(run("none.txt birds.puz"), 1);
+    EXPECT_EQ(run("good.txt none/a.puz"), 1);
+    EXPECT_EQ(run("good.txt good.txt"), 1);
+    EXPECT_EQ(run("good.txt"), 2);
+    EXPECT_EQ(run("bad.txt birds.puz"), 1);
     EXPECT_TRUE(read("said").starts_with("bad.txt:8: \" \" in the grid")) << read("said");
     EXPECT_EQ(read("birds.puz"), Compile(birds));
     EXPECT_EQ(read("good.txt"), birds);
@@ -197,11 +194,13 @@ TEST(CompileProgram, WritesWholePuzzlesOrNothing) {
 }
 
 TEST(BundledPuzzles, AreWellMade) {
+    int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(PUZZLES_PATH)) {
         if (entry.path().extension() != ".txt" || entry.path().filename() == "CMakeLists.txt") {
             continue;
         }
         SCOPED_TRACE(entry.path().filename());
+        ++count;
         const std::string file = Compile(ReadBytes(entry.path()));
         EXPECT_LE(file.size(), 16000u) << "more than the game can hold";
         const std::size_t side = static_cast<unsigned char>(file[0x2C]);
@@ -219,13 +218,12 @@ TEST(BundledPuzzles, AreWellMade) {
                 EXPECT_TRUE(black || word.length >= 3) << "too short a word at " << i;
             }
         }
-        std::set<std::string> clues;
         const auto texts = QByteArray::fromStdString(file.substr(gridOffset + 2 * side * side));
         for (const QByteArray& clue : texts.split('\0').mid(3, qsizetype(words.size()))) {
             EXPECT_LE(clue.size(), 70) << "too long for the small clue bar: " << clue.toStdString();
-            EXPECT_TRUE(clues.insert(clue.toStdString()).second) << clue.toStdString();
         }
     }
+    EXPECT_GE(count, 1) << "no puzzle in " << PUZZLES_PATH;
 }
 
 }  // namespace
