@@ -320,7 +320,7 @@ TEST_F(Screen, WindowsAreToldWhatChangesAndCalledForward) {
 TEST_F(Screen, ARingGrowsAroundAHeldStylus) {
     handheld->Resize(3);
     QRect place;
-    QTimer::singleShot(550, [&place] {
+    QTimer::singleShot(300, [&place] {
         auto* cue = Host().findChild<HoldCue*>();
         place = cue->geometry();
         EXPECT_EQ(cue->grab().toImage().pixel(48, 48 - 13 * 3), 0xFF2F6DB5);
