@@ -31,7 +31,6 @@
 #include "model/puzzle.h"
 #include "model/puzzle_file.h"
 #include "model/puzzle_parser.h"
-#include "model/selection.h"
 #include "platform/drawing.h"
 #include "platform/qt/common/screen_layout.h"
 #include "platform/qt/host/host_window.h"

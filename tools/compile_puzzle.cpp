@@ -2,7 +2,6 @@
 //
 // Exit status 0 when the output was written; 1 when it was not and the old output, if any, is as
 // it was; 2 when the command line is wrong.
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iostream>

@@ -4,7 +4,6 @@
 
 #include "app/view.h"
 #include "model/puzzle.h"
-#include "platform/windows.h"
 #include "play/settings.h"
 
 namespace {

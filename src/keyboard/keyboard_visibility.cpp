@@ -3,7 +3,6 @@
 #include "app/layout.h"
 #include "app/repaint.h"
 #include "app/view.h"
-#include "platform/windows.h"
 #include "play/scroll_into_view.h"
 #include "play/settings.h"
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "model/puzzle.h"
-#include "model/selection.h"
 #include "play/word_extent.h"
 
 namespace {

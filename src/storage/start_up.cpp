@@ -1,7 +1,6 @@
 #include "storage/start_up.h"
 
 #include <algorithm>
-#include <string>
 #include <string_view>
 
 #include "app/layout.h"

@@ -4,12 +4,8 @@
 // bottom, edit boxes of one line. Left out: subclassing, owner drawing, styles that no dialog uses.
 #include "platform/qt/controls/control.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "platform/dialogs.h"
 #include "platform/qt/common/screen_geometry.h"
-#include "platform/qt/controls/dialog_look.h"
 #include "platform/qt/controls/dialog_units.h"
 #include "platform/qt/look/fonts.h"
 #include "platform/qt/surface/drawing_objects.h"

@@ -4,8 +4,6 @@
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
-#include <QtWidgets/QStyleOptionButton>
-#include <QtWidgets/QStylePainter>
 #include <algorithm>
 
 #include "platform/dialogs.h"

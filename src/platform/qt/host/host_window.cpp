@@ -1,7 +1,6 @@
 #include "platform/qt/host/host_window.h"
 
 #include <QtCore/QTimer>
-#include <QtCore/QtMath>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>

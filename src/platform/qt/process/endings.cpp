@@ -5,7 +5,6 @@
 
 #include <QtCore/QSocketNotifier>
 #include <QtGui/QGuiApplication>
-#include <QtWidgets/QApplication>
 #include <csignal>
 
 #include "platform/qt/window/end_request.h"

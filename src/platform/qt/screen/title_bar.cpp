@@ -1,7 +1,6 @@
 #include "platform/qt/screen/title_bar.h"
 
 #include <QtGui/QPainter>
-#include <algorithm>
 
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/look/colors.h"

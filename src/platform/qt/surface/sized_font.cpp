@@ -1,7 +1,6 @@
 #include "platform/qt/surface/sized_font.h"
 
 #include <QtGui/QFontMetrics>
-#include <algorithm>
 #include <cmath>
 #include <vector>
 
