@@ -15,12 +15,6 @@
 
 namespace {
 
-// Dragging may leave the window, so the coordinates are signed.
-POINT SignedPoint(LPARAM point) {
-    const auto packed = static_cast<WPARAM>(point);
-    return {static_cast<std::int16_t>(LOWORD(packed)), static_cast<std::int16_t>(HIWORD(packed))};
-}
-
 bool InBoardView(HWND window, POINT point) {
     const RECT view = BoardViewArea(window);
     return PtInRect(&view, point) != FALSE;

@@ -3,6 +3,15 @@
 #include "platform/drawing.h"
 #include "platform/windows.h"
 
+namespace {
+
+// When SipInfo was filled in.
+bool InputPanelUp() {
+    return (SipInfo.fdwFlags & SIPF_ON) != 0;
+}
+
+}  // namespace
+
 void CreateOffscreenBuffer(HWND window, int width, int height) {
     HDC windowContext = GetDC(window);
     OffscreenBuffer.context = CreateCompatibleDC(windowContext);
@@ -34,10 +43,6 @@ bool QuerySipInfo() {
     SipInfo = {};
     SipInfo.cbSize = sizeof SipInfo;
     return SHSipInfo(SPI_GETSIPINFO, 0, &SipInfo, 0) != FALSE;
-}
-
-bool InputPanelUp() {
-    return (SipInfo.fdwFlags & SIPF_ON) != 0;
 }
 
 bool LowerInputPanel() {

@@ -64,9 +64,6 @@ void CopyViewToScreen(HWND window);
 // Clears SipInfo, gives it its size and asks the shell; false when the shell refuses.
 bool QuerySipInfo();
 
-// Whether the soft input panel was up when SipInfo was filled in.
-bool InputPanelUp();
-
 // True when the soft input panel was up and is now lowered.
 bool LowerInputPanel();
 

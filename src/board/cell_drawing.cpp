@@ -7,6 +7,15 @@
 #include "platform/text.h"
 #include "play/settings.h"
 
+namespace {
+
+// Numbers are readable only in the larger sizes.
+bool NumbersShown() {
+    return ShowNumbers == 1 && ChosenSize().showsNumbers;
+}
+
+}  // namespace
+
 void DrawCellSquare(HDC context, int row, int col) {
     const RECT square = OutlineSquare(row, col);
     Rectangle(context, square.left, square.top, square.right, square.bottom);
@@ -17,13 +26,9 @@ void DrawCellLetter(HDC context, int row, int col, char letter) {
         return;
     }
     const std::u16string text = WidenText({&letter, 1});
-    RECT box = LetterBox(row, col);
+    RECT box = OutlineSquare(row, col);
     const Selected font(context, LetterFont);
     DrawTextW(context, text.c_str(), 1, &box, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-}
-
-bool NumbersShown() {
-    return ShowNumbers == 1 && ChosenSize().showsNumbers;
 }
 
 void DrawCellNumber(HDC context, int row, int col) {

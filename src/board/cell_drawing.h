@@ -15,6 +15,3 @@ void DrawCellLetter(HDC context, int row, int col, char letter);
 void DrawCellNumber(HDC context, int row, int col);
 // The same, cut at the box.
 void DrawCellNumberInBox(HDC context, int row, int col, const RECT& box);
-
-// Numbers are readable only in the larger sizes.
-bool NumbersShown();

@@ -11,11 +11,6 @@ inline RECT OutlineSquare(int row, int col) {
     return {left, top, left + CellSize + 1, top + CellSize + 1};
 }
 
-// Letters are centred in the outline square.
-inline RECT LetterBox(int row, int col) {
-    return OutlineSquare(row, col);
-}
-
 // Reaches half a cell beyond the outline, so that three digits are never cut.
 inline RECT NumberBox(int row, int col) {
     const int left = BoardLeft + col * CellSize;

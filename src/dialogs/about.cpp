@@ -58,9 +58,7 @@ void HandleTap(HWND dialog, LPARAM where) {
         EndAnimation(dialog);
         return;
     }
-    const auto packed = static_cast<std::uintptr_t>(where);
-    OpenLinkAt(
-        {static_cast<std::int16_t>(LOWORD(packed)), static_cast<std::int16_t>(HIWORD(packed))});
+    OpenLinkAt(SignedPoint(where));
 }
 
 void RestorePicture(HWND dialog) {

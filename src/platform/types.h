@@ -72,6 +72,12 @@ constexpr LPARAM MAKELPARAM(int low, int high) {
                                static_cast<DWORD>(static_cast<WORD>(high)) << 16);
 }
 
+// What MAKELPARAM packed: a drag may leave the window, so the coordinates are signed.
+constexpr POINT SignedPoint(LPARAM packed) {
+    const auto value = static_cast<std::uintptr_t>(packed);
+    return {static_cast<std::int16_t>(LOWORD(value)), static_cast<std::int16_t>(HIWORD(value))};
+}
+
 constexpr COLORREF RGB(int red, int green, int blue) {
     return static_cast<COLORREF>((red & 0xFF) | (green & 0xFF) << 8 | (blue & 0xFF) << 16);
 }

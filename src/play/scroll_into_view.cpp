@@ -6,22 +6,30 @@
 
 namespace {
 
-// False when nothing changes.
-bool ScrollTo(int& scroll, int target) {
-    if (target == scroll) {
-        return false;
-    }
+void ScrollTo(int& scroll, int target) {
     scroll = target;
     CopyViewToScreen(MainWindow);
+}
+
+// Brings the word's last cell to the view's far edge. False when that cell is not beyond it, or
+// when the rest of the word from the selected cell on does not fit.
+bool ShowEnd(int& scroll, int viewSize, int last, int selected) {
+    const int end = (last + 1) * CellSize;
+    const bool beyond = end > viewSize + scroll;
+    const bool restFits = (last - selected + 1) * CellSize < viewSize;
+    if (!beyond || !restFits) {
+        return false;
+    }
+    ScrollTo(scroll, end - viewSize);
     return true;
 }
 
-bool ShowEnd(int& scroll, int viewSize, int last, int selected) {
-    return ScrollTo(scroll, ScrollToShowEnd({scroll, viewSize, CellSize}, last, selected));
-}
-
+// Brings the word's first cell to the view's near edge, unless it lies a whole view or more away.
 void ShowStart(int& scroll, int viewSize, int first) {
-    ScrollTo(scroll, ScrollToShowStart({scroll, viewSize, CellSize}, first));
+    const int start = first * CellSize;
+    if (start < scroll && scroll - start < viewSize) {
+        ScrollTo(scroll, start);
+    }
 }
 
 void ScrollAcrossWord(const WordExtent& word) {
@@ -47,20 +55,6 @@ void ScrollDownWord(const WordExtent& word) {
 }
 
 }  // namespace
-
-int ScrollToShowEnd(const ScrollAxis& axis, int last, int selected) {
-    const int end = (last + 1) * axis.cellSize;
-    const bool beyond = end > axis.viewSize + axis.scroll;
-    const bool restFits = (last - selected + 1) * axis.cellSize < axis.viewSize;
-    return beyond && restFits ? end - axis.viewSize : axis.scroll;
-}
-
-int ScrollToShowStart(const ScrollAxis& axis, int first) {
-    const int start = first * axis.cellSize;
-    const bool before = start < axis.scroll;
-    const bool near = axis.scroll - start < axis.viewSize;
-    return before && near ? start : axis.scroll;
-}
 
 void ScrollIntoView() {
     const WordExtent word = FindSelectedExtent();

@@ -19,27 +19,6 @@ int ClueIndexAt(int row, int col, int direction) {
     return direction == 0 ? cell.acrossClue : cell.downClue;
 }
 
-WordExtent FindWordExtent(int row, int col, int direction) {
-    const int clue = ClueIndexAt(row, col, direction);
-    const int start = direction == 0 ? col : row;
-    const auto belongs = [&](int position) {
-        return direction == 0 ? ClueIndexAt(row, position, direction) == clue
-                              : ClueIndexAt(position, col, direction) == clue;
-    };
-    WordExtent word{start, start};
-    // Neighbours that have no word either are not one word with it.
-    if (clue == -1) {
-        return word;
-    }
-    while (belongs(word.first - 1)) {
-        --word.first;
-    }
-    while (belongs(word.last + 1)) {
-        ++word.last;
-    }
-    return word;
-}
-
 void SetCursorFromIndex(int cell) {
     CursorRow = cell / PuzzleWidth;
     CursorCol = cell % PuzzleWidth;
@@ -62,7 +41,24 @@ int SelectedCell() {
 }
 
 WordExtent FindSelectedExtent() {
-    return FindWordExtent(CursorRow, CursorCol, Direction);
+    const int clue = ClueIndexAt(CursorRow, CursorCol, Direction);
+    const auto belongs = [clue](int position) {
+        return Direction == 0 ? ClueIndexAt(CursorRow, position, Direction) == clue
+                              : ClueIndexAt(position, CursorCol, Direction) == clue;
+    };
+    const int start = Direction == 0 ? CursorCol : CursorRow;
+    WordExtent word{start, start};
+    // Neighbours that have no word either are not one word with it.
+    if (clue == -1) {
+        return word;
+    }
+    while (belongs(word.first - 1)) {
+        --word.first;
+    }
+    while (belongs(word.last + 1)) {
+        ++word.last;
+    }
+    return word;
 }
 
 bool SelectionIsBlack() {

@@ -16,9 +16,6 @@ bool IsOnBoard(int row, int col);
 // has no word there or is off the board.
 int ClueIndexAt(int row, int col, int direction);
 
-// The cell itself when it has no word in that direction.
-WordExtent FindWordExtent(int row, int col, int direction);
-
 // Selects a cell by its index in the grids.
 void SetCursorFromIndex(int cell);
 
@@ -29,7 +26,7 @@ bool SelectCellOfNumber(int clueNumber);
 // The selected cell's index in the grids, 0 when the selection is off the board.
 int SelectedCell();
 
-// The selected cell's word in the current Direction.
+// The selected cell's word in the current Direction; the cell itself when it has none.
 WordExtent FindSelectedExtent();
 
 // True when the selected cell is a black square of the player's grid.

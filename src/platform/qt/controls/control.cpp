@@ -16,6 +16,11 @@ LRESULT AnswerForControl(HWND window, UINT message, WPARAM wParam, LPARAM lParam
     return static_cast<Control*>(window)->Answer(message, wParam, lParam);
 }
 
+// Null for what is no control of an open dialog.
+Control* AsControl(HWND window) {
+    return IsLiveWindow(window) ? dynamic_cast<Control*>(window) : nullptr;
+}
+
 }  // namespace
 
 Control::Control(HWND owner, const ControlResource& described)
@@ -27,10 +32,6 @@ Control::Control(HWND owner, const ControlResource& described)
 
 Control::~Control() {
     RemoveChildWindow(this);
-}
-
-Control* AsControl(HWND window) {
-    return IsLiveWindow(window) ? dynamic_cast<Control*>(window) : nullptr;
 }
 
 void Control::Show(QWidget* shown) {

@@ -35,9 +35,6 @@ protected:
     virtual RECT Area() const;
 };
 
-// Null for what is no control of an open dialog.
-Control* AsControl(HWND window);
-
 std::unique_ptr<Control> MakeButton(HWND dialog, const ControlResource& resource, QWidget* parent);
 std::unique_ptr<Control> MakeStatic(HWND dialog, const ControlResource& resource, QWidget* parent);
 std::unique_ptr<Control> MakePicture(HWND dialog, const ControlResource& resource, QWidget* parent,

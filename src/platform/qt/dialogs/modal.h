@@ -1,4 +1,4 @@
-// Running the toolkit's own dialogs over the handheld's screen.
+// Running message boxes and choosers over the handheld's screen.
 #pragma once
 
 #include <QtGui/QFont>

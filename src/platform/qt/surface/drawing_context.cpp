@@ -31,11 +31,6 @@ HDC MakeContext(Surface* surface, HBITMAP bitmap, std::function<void(const RECT&
     return context;
 }
 
-void DeleteContext(HDC context) {
-    CountObjects(context, -1);
-    delete context;
-}
-
 HDC CreateCompatibleDC(HDC) {
     HBITMAP bitmap = Stock().bitmap;
     return MakeContext(bitmap->surface.get(), bitmap, {});
@@ -45,7 +40,8 @@ BOOL DeleteDC(HDC context) {
     if (context == nullptr) {
         return FALSE;
     }
-    DeleteContext(context);
+    CountObjects(context, -1);
+    delete context;
     return TRUE;
 }
 

@@ -20,4 +20,3 @@ struct DrawingContext {
 
 // With the stock objects; on the surface of the bitmap when there is one.
 HDC MakeContext(Surface* surface, HBITMAP bitmap, std::function<void(const RECT&)> drawn);
-void DeleteContext(HDC context);
