@@ -106,8 +106,9 @@ protected:
     void CopyOther() {
         Genes genes = AnyGenes();
         genes[4] = 0;  // no smooth corners: where an edge cuts them they are a shade different
-        other.Draw(MarkOf(genes));
-        plainOther.Add(MarkOf(genes));
+        const Mark mark = Below(3) == 0 ? FillMark{{0, 0, 200, 120}, under} : MarkOf(genes);
+        other.Draw(mark);
+        plainOther.Add(mark);
         const POINT source{Below(30) - 10, Below(30) - 10};
         const RECT area = areas[std::size_t(Below(8))];
         surface.Copy(area, other, source);
@@ -136,8 +137,8 @@ protected:
     void Resize() {
         plain.Add(FillMark{{plain.width, 0, 999, 999}, paper});
         plain.Add(FillMark{{0, plain.height, 999, 999}, paper});
-        plain.width += Below(2) == 0 ? 20 : -20;
-        plain.height += Below(2) == 0 ? 15 : -15;
+        plain.width = 140 + Below(7) * 20;
+        plain.height = 75 + Below(7) * 15;
         surface.Resize(plain.width, plain.height);
     }
     void ExpectRight() {
@@ -183,7 +184,7 @@ TEST_P(Surfaces, ShowWhatDrawingEveryMarkWouldShow) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, Surfaces, testing::Range(1u, 17u));
+INSTANTIATE_TEST_SUITE_P(Seeds, Surfaces, testing::Range(1u, 27u));
 
 QImage DrawnText(QSize size, const TextMark& mark) {
     Surface surface(size.width(), size.height());
