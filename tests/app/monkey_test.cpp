@@ -230,13 +230,13 @@ private:
     }
 
     std::string CompareMenus() {
-        const auto main = LookAtMenu(*handheld, mainMenu).items;
-        EXPECT_EQ(main.at("Toggle/Auto Skip").checked, plain->settings.autoSkip);
-        EXPECT_EQ(main.at("Toggle/Numbers").checked, plain->settings.numbers);
-        const auto size = LookAtMenu(*handheld, sizeMenu).items;
-        EXPECT_EQ(size.at("Small").checked, plain->settings.size == 0);
-        EXPECT_EQ(size.at("Medium").checked, plain->settings.size == 1);
-        EXPECT_EQ(size.at("Large").checked, plain->settings.size == 2);
+        const auto main = ChecksOf(*handheld, mainMenu);
+        EXPECT_EQ(main.at("Toggle/Auto Skip"), plain->settings.autoSkip);
+        EXPECT_EQ(main.at("Toggle/Numbers"), plain->settings.numbers);
+        const auto size = ChecksOf(*handheld, sizeMenu);
+        EXPECT_EQ(size.at("Small"), plain->settings.size == 0);
+        EXPECT_EQ(size.at("Medium"), plain->settings.size == 1);
+        EXPECT_EQ(size.at("Large"), plain->settings.size == 2);
         return "menus";
     }
 

@@ -50,8 +50,8 @@ TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
         EXPECT_EQ(std::tuple(CursorRow, ScrollX, ScrollY), std::tuple(3, 0, 0));
         ExpectFullRepaint();
     }
-    EXPECT_TRUE(LookAtMenu(*handheld, "Puzzle magnification").items["Small"].checked);
-    EXPECT_TRUE(LookAtMenu(*handheld, "Main Menu").items["Toggle/Numbers"].checked);
+    EXPECT_TRUE(ChecksOf(*handheld, "Puzzle magnification")["Small"]);
+    EXPECT_TRUE(ChecksOf(*handheld, "Main Menu")["Toggle/Numbers"]);
 }
 
 TEST_F(Preferences, TheArrowsChooseASize) {

@@ -249,7 +249,7 @@ TEST_F(Screen, KeysGoAroundTheButtonsThatCanBePressedAndOthersAreTheGames) {
 // go on to the neighbouring popups, around the ends.
 TEST_F(Screen, KeysGoFromPopupToPopupWhichCloseWhenTheWindowIsResized) {
     QStringList selected;
-    const NextMenu next([&selected](QMenu*) {
+    UseNextMenu([&selected](QMenu*) {
         for (int key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left}) {
             auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             ASSERT_NE(popup, nullptr);

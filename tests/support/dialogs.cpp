@@ -2,52 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QTabBar>
-#include <utility>
 
 #include "platform/dialogs.h"
 #include "platform/qt/common/screen_geometry.h"
-#include "platform/qt/dialogs/dialog_view.h"
 #include "platform/qt/host/host_window.h"
 #include "platform/qt/screen/title_bar.h"
 #include "platform/qt/window/window.h"
-
-namespace {
-
-std::function<void()> plannedUse;
-
-class DialogWatcher : public QObject {
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        auto* view = qobject_cast<DialogView*>(object);
-        if (event->type() == QEvent::Show && view != nullptr) {
-            const auto closeAtOnce = [view] { EndDialog(view->ShownWindow(), 0); };
-            QTimer::singleShot(0, view,
-                               plannedUse ? std::exchange(plannedUse, nullptr) : closeAtOnce);
-        }
-        return false;
-    }
-};
-
-}  // namespace
-
-void WatchDialogs() {
-    QCoreApplication::instance()->installEventFilter(
-        new DialogWatcher(QCoreApplication::instance()));
-}
+#include "support/menus.h"
+#include "support/message_boxes.h"
 
 void UseDialog(Handheld& handheld, const std::function<void()>& open,
                const std::function<void(OpenDialog&)>& use) {
     bool used = false;
-    plannedUse = [&] {
+    UseNextDialog([&] {
         used = true;
         // Arrow keys ask the application where the focus is.
         QApplication::setActiveWindow(&Host());
@@ -59,11 +32,11 @@ void UseDialog(Handheld& handheld, const std::function<void()>& open,
         }
         // Its loop waits for a message that was handled here already.
         PostMessageW(TopWindow(), 0, 0, 0);
-    };
+    });
     open();
     handheld.Settle();
     EXPECT_TRUE(used);
-    plannedUse = nullptr;
+    UseNextDialog(nullptr);
 }
 
 OpenDialog::OpenDialog(Handheld& its) : handheld(its), window(TopWindow()) {
@@ -124,15 +97,7 @@ void OpenDialog::TapTitleOk() {
 }
 
 void OpenDialog::Press(int key) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier,
-                    key == Qt::Key_Space ? QString(" ") : QString());
-    QWidget* focus = Host().focusWidget();
-    QCoreApplication::sendEvent(focus, &press);
-    if (IsOpen()) {
-        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
-        QCoreApplication::sendEvent(focus, &release);
-    }
-    handheld.Settle();
+    PressFocusedKey(handheld, key);
 }
 
 void OpenDialog::Type(int edit, const QString& text) {

@@ -54,6 +54,3 @@ private:
 // in its title bar. Fails when no dialog opens.
 void UseDialog(Handheld& handheld, const std::function<void()>& open,
                const std::function<void(OpenDialog&)>& use);
-
-// For the main program of the tests. A dialog that nobody planned to use is closed at once.
-void WatchDialogs();

@@ -25,25 +25,17 @@ ClientView* MainView() {
     return qobject_cast<ClientView*>(MainWindow->widget.data());
 }
 
-void SendMouse(QWidget* widget, QEvent::Type type, QPointF place, Qt::MouseButton button,
-               Qt::MouseButtons held) {
-    QMouseEvent event(type, place, widget->mapToGlobal(place), button, held, Qt::NoModifier);
+void SendMouse(QWidget* widget, QEvent::Type type, QPointF place, Qt::MouseButton button) {
+    const bool lifted = type == QEvent::MouseButtonRelease;
+    QMouseEvent event(type, place, widget->mapToGlobal(place), button,
+                      lifted ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &event);
 }
 
-void SendMouse(QEvent::Type type, POINT client, Qt::MouseButton button, Qt::MouseButtons held) {
+void SendMouse(QEvent::Type type, POINT client, Qt::MouseButton button = Qt::LeftButton) {
     // The middle of the logical pixel, so that rounding cannot move it.
-    const double magnification = ScreenMagnification();
-    const QPointF place((client.x + 0.5) * magnification, (client.y + 0.5) * magnification);
-    SendMouse(MainView(), type, place, button, held);
-}
-
-void SendPress(POINT point) {
-    SendMouse(QEvent::MouseButtonPress, point, Qt::LeftButton, Qt::LeftButton);
-}
-
-void SendRelease(POINT point) {
-    SendMouse(QEvent::MouseButtonRelease, point, Qt::LeftButton, Qt::NoButton);
+    const QPointF place = QPointF(client.x + 0.5, client.y + 0.5) * ScreenMagnification();
+    SendMouse(MainView(), type, place, button);
 }
 
 POINT MiddleOfCell(int row, int col) {
@@ -53,13 +45,8 @@ POINT MiddleOfCell(int row, int col) {
 
 // What a keyboard sends along with a key: its letter, or with Ctrl its control character.
 QString TextOfKey(int key, Qt::KeyboardModifiers modifiers) {
-    if (key >= 0x80) {
-        return {};
-    }
-    if (modifiers.testFlag(Qt::ControlModifier)) {
-        return QChar(key & 0x1F);
-    }
-    return QString(QChar(key)).toLower();
+    const int letter = modifiers.testFlag(Qt::ControlModifier) ? key & 0x1F : key;
+    return key < 0x80 ? QString(QChar(letter)).toLower() : QString();
 }
 
 }  // namespace
@@ -103,10 +90,23 @@ void Handheld::Settle() {
     } while (MessagesWaiting());
 }
 
-void Handheld::Tap(int x, int y) {
-    SendPress({x, y});
-    SendRelease({x, y});
+void Handheld::PutDown(POINT point) {
+    SendMouse(QEvent::MouseButtonPress, point);
+}
+
+void Handheld::MoveTo(POINT point) {
+    SendMouse(QEvent::MouseMove, point, Qt::NoButton);
     Settle();
+}
+
+void Handheld::LiftAt(POINT point) {
+    SendMouse(QEvent::MouseButtonRelease, point);
+    Settle();
+}
+
+void Handheld::Tap(int x, int y) {
+    PutDown({x, y});
+    LiftAt({x, y});
 }
 
 void Handheld::TapCell(int row, int col) {
@@ -115,52 +115,33 @@ void Handheld::TapCell(int row, int col) {
 }
 
 void Handheld::DoubleTapCell(int row, int col) {
-    const POINT middle = MiddleOfCell(row, col);
-    SendPress(middle);
-    SendRelease(middle);
-    SendMouse(QEvent::MouseButtonDblClick, middle, Qt::LeftButton, Qt::LeftButton);
-    SendRelease(middle);
-    Settle();
+    TapCell(row, col);
+    SendMouse(QEvent::MouseButtonDblClick, MiddleOfCell(row, col));
+    LiftAt(MiddleOfCell(row, col));
 }
 
 void Handheld::Hold(int x, int y) {
-    SendPress({x, y});
+    PutDown({x, y});
     Settle();
-    SendRelease({x, y});
-    Settle();
+    LiftAt({x, y});
 }
 
 void Handheld::RightClick(int x, int y) {
-    SendMouse(QEvent::MouseButtonPress, {x, y}, Qt::RightButton, Qt::RightButton);
-    SendMouse(QEvent::MouseButtonRelease, {x, y}, Qt::RightButton, Qt::NoButton);
+    SendMouse(QEvent::MouseButtonPress, {x, y}, Qt::RightButton);
+    SendMouse(QEvent::MouseButtonRelease, {x, y}, Qt::RightButton);
     Settle();
 }
 
 void Handheld::Drag(POINT from, POINT to) {
     constexpr int steps = 10;
-    SendPress(from);
+    PutDown(from);
     for (int step = 1; step <= steps; ++step) {
         SendMouse(
             QEvent::MouseMove,
             {from.x + (to.x - from.x) * step / steps, from.y + (to.y - from.y) * step / steps},
-            Qt::NoButton, Qt::LeftButton);
+            Qt::NoButton);
     }
-    SendRelease(to);
-    Settle();
-}
-
-void Handheld::PutDown(POINT point) {
-    SendPress(point);
-}
-
-void Handheld::MoveTo(POINT point) {
-    SendMouse(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton);
-    Settle();
-}
-
-void Handheld::LiftAt(POINT point) {
-    SendRelease(point);
-    Settle();
+    LiftAt(to);
 }
 
 void Handheld::Press(int key, Qt::KeyboardModifiers modifiers) {
@@ -214,7 +195,7 @@ QImage Handheld::Screen() {
 }
 
 COLORREF Handheld::Pixel(int x, int y) {
-    return ColorAt(MainWindow->surface->Image(), x, y);
+    return ColorAt(Client(), x, y);
 }
 
 QImage Handheld::Client() {
@@ -222,12 +203,8 @@ QImage Handheld::Client() {
 }
 
 void DragOver(QWidget* widget, QPointF from, QPointF to) {
-    SendMouse(widget, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
-    SendMouse(widget, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
-}
-
-QImage BufferImage() {
-    return ImageOf(OffscreenBuffer.context);
+    SendMouse(widget, QEvent::MouseButtonPress, from, Qt::LeftButton);
+    SendMouse(widget, QEvent::MouseButtonRelease, to, Qt::LeftButton);
 }
 
 QImage ImageOf(HDC context) {

@@ -63,8 +63,7 @@ public:
 // The stylus touches one place of the widget and is lifted at another.
 void DragOver(QWidget* widget, QPointF from, QPointF to);
 
-// The off-screen buffer and any other context's surface, in device pixels.
-QImage BufferImage();
+// A context's surface, in device pixels.
 QImage ImageOf(HDC context);
 void PrintTo(const QImage& image, std::ostream* out);
 COLORREF ColorAt(const QImage& image, int x, int y);

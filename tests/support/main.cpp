@@ -3,7 +3,6 @@
 #include <iostream>
 
 #include "platform/qt/process/bring_up.h"
-#include "support/dialogs.h"
 #include "support/message_boxes.h"
 
 namespace {
@@ -23,6 +22,5 @@ int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
     const auto handheld = BringHandheldUp(argumentCount, arguments);
     AnswerBoxes();
-    WatchDialogs();
     return RUN_ALL_TESTS();
 }

@@ -1,39 +1,23 @@
 #include "support/menus.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QTimer>
+#include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QMenu>
-#include <utility>
 
 #include "platform/qt/host/host_window.h"
 #include "support/message_boxes.h"
-
-NextMenu::NextMenu(std::function<void(QMenu*)> planned) : use(std::move(planned)) {
-    QCoreApplication::instance()->installEventFilter(this);
-}
-
-NextMenu::~NextMenu() {
-    TakeOpenedMenus();
-}
-
-bool NextMenu::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() != QEvent::Show || !use) {
-        return false;
-    }
-    if (auto* menu = qobject_cast<QMenu*>(object)) {
-        QTimer::singleShot(0, menu, [menu, now = std::exchange(use, nullptr)] { now(menu); });
-    }
-    return false;
-}
 
 void SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers) {
     // A letter comes with its text.
     const QString text =
         key < 0x80 && modifiers == Qt::NoModifier ? QString(QChar(key)) : QString();
+    const QPointer<QWidget> present = widget;
     for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, key, modifiers, text);
-        QCoreApplication::sendEvent(widget, &event);
+        if (present != nullptr) {
+            QCoreApplication::sendEvent(present, &event);
+        }
     }
 }
 
@@ -66,12 +50,20 @@ bool Choose(QMenu* menu, const ItemPath& path) {
     return submenu->isVisible() && Choose(submenu, path.mid(1));
 }
 
-void CollectItems(const QMenu* menu, const QString& prefix, ShownMenu& shown) {
+void PlanChoice(const ItemPath& path, bool& chosen) {
+    UseNextMenu([&](QMenu* menu) {
+        chosen = Choose(menu, path);
+        if (!chosen) {
+            menu->close();
+        }
+    });
+}
+
+void CollectChecks(const QMenu* menu, const QString& prefix, std::map<QString, bool>& checks) {
     for (const QAction* action : menu->actions()) {
+        checks[prefix + action->text()] = action->isChecked();
         if (action->menu() != nullptr) {
-            CollectItems(action->menu(), prefix + action->text() + "/", shown);
-        } else if (!action->isSeparator()) {
-            shown.items[prefix + action->text()] = {action->isChecked()};
+            CollectChecks(action->menu(), prefix + action->text() + "/", checks);
         }
     }
 }
@@ -80,27 +72,28 @@ void CollectItems(const QMenu* menu, const QString& prefix, ShownMenu& shown) {
 
 bool ChooseFromBar(Handheld& handheld, const QString& tooltip, const ItemPath& path) {
     bool chosen = false;
-    const NextMenu next([&](QMenu* menu) { chosen = Choose(menu, path); });
+    PlanChoice(path, chosen);
     return handheld.PressButton(tooltip) && chosen;
 }
 
 bool ChooseFromContext(Handheld& handheld, POINT point, const ItemPath& path) {
     bool chosen = false;
-    const NextMenu next([&](QMenu* menu) { chosen = Choose(menu, path); });
+    PlanChoice(path, chosen);
     handheld.RightClick(point.x, point.y);
     return chosen;
 }
 
-ShownMenu LookAtMenu(Handheld& handheld, const QString& tooltip) {
+std::map<QString, bool> ChecksOf(Handheld& handheld, const QString& tooltip) {
     QMenu* popup = nullptr;
-    const NextMenu next([&](QMenu* menu) { popup = menu; });
+    UseNextMenu([&](QMenu* menu) {
+        popup = menu;
+        menu->close();
+    });
     // The program sets the check marks while it is open.
     handheld.PressButton(tooltip);
-    ShownMenu shown;
-    if (popup != nullptr) {
-        CollectItems(popup, "", shown);
-    }
-    return shown;
+    std::map<QString, bool> checks;
+    CollectChecks(popup, "", checks);
+    return checks;
 }
 
 void PressFocusedKey(Handheld& handheld, int key, Qt::KeyboardModifiers modifiers) {

@@ -18,6 +18,7 @@
 #include <utility>
 
 #include "platform/dialogs.h"
+#include "platform/qt/dialogs/dialog_view.h"
 #include "platform/text.h"
 #include "support/looks.h"
 
@@ -34,6 +35,8 @@ std::vector<ShownChooser> shownChoosers;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
 std::function<void()> duringNextBox;
+std::function<void(QMenu*)> useOfNextMenu;
+std::function<void()> useOfNextDialog;
 std::string comparedName;
 
 template <typename Value>
@@ -105,8 +108,20 @@ void Answer(QColorDialog* dialog) {
 }
 
 void Answer(QMenu* menu) {
+    if (useOfNextMenu) {
+        std::exchange(useOfNextMenu, nullptr)(menu);
+        return;
+    }
     ++openedMenus;
     menu->close();
+}
+
+void Answer(DialogView* dialog) {
+    if (useOfNextDialog) {
+        std::exchange(useOfNextDialog, nullptr)();
+    } else {
+        EndDialog(dialog->ShownWindow(), 0);
+    }
 }
 
 template <typename Box>
@@ -130,7 +145,8 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Show) {
             AnswerIfIs<QFileDialog>(object) || AnswerIfIs<QColorDialog>(object) ||
-                AnswerIfIs<QDialog>(object) || AnswerIfIs<QMenu>(object);
+                AnswerIfIs<QDialog>(object) || AnswerIfIs<QMenu>(object) ||
+                AnswerIfIs<DialogView>(object);
         }
         return false;
     }
@@ -160,6 +176,14 @@ std::vector<ShownMessage> TakeShownMessages() {
 
 void ChooseNextFile(const std::filesystem::path& file) {
     plannedFiles.push_back(file);
+}
+
+void UseNextMenu(std::function<void(QMenu*)> use) {
+    useOfNextMenu = std::move(use);
+}
+
+void UseNextDialog(std::function<void()> use) {
+    useOfNextDialog = std::move(use);
 }
 
 void CompareNextBox(const std::string& name) {

@@ -9,6 +9,8 @@
 
 #include "platform/types.h"
 
+class QMenu;
+
 // For the main program of the tests, with the application object in place.
 void AnswerBoxes();
 
@@ -49,6 +51,11 @@ std::vector<ShownChooser> TakeShownChoosers();
 
 // The colour that the next colour chooser is given, and whether it is accepted or cancelled.
 void PickNextColor(COLORREF color, bool accept);
+
+// What is done with the next menu of the program, or with its next dialog, which is still open
+// then: both run a loop of their own. A dialog that nobody planned to use is closed at once.
+void UseNextMenu(std::function<void(QMenu*)> use);
+void UseNextDialog(std::function<void()> use);
 
 // The next box, chooser or menu is compared with its picture of that name (looks.h).
 void CompareNextBox(const std::string& name);
