@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <numeric>
 #include <random>
 #include <string>
 #include <string_view>
@@ -31,18 +32,6 @@ struct RawPuzzle {
     }
 };
 
-inline RawPuzzle PuzzleOfBoard(const BoardRows& rows, std::vector<std::string> texts) {
-    std::string solution;
-    for (const std::string& row : rows) {
-        solution += row;
-    }
-    std::string player = solution;
-    std::replace_if(
-        player.begin(), player.end(), [](char cell) { return cell != '.'; }, '-');
-    return {static_cast<int>(rows[0].size()), static_cast<int>(rows.size()), solution + player,
-            std::move(texts)};
-}
-
 // Nothing entered yet.
 inline BoardRows EmptyBoard(BoardRows rows) {
     for (std::string& row : rows) {
@@ -50,6 +39,15 @@ inline BoardRows EmptyBoard(BoardRows rows) {
             row.begin(), row.end(), [](char cell) { return cell != '.'; }, '-');
     }
     return rows;
+}
+
+inline std::string Joined(const BoardRows& rows) {
+    return std::accumulate(rows.begin(), rows.end(), std::string());
+}
+
+inline RawPuzzle PuzzleOfBoard(const BoardRows& rows, std::vector<std::string> texts) {
+    return {static_cast<int>(rows[0].size()), static_cast<int>(rows.size()),
+            Joined(rows) + Joined(EmptyBoard(rows)), std::move(texts)};
 }
 
 // Rows of different letters, so that a cell taken from the wrong place shows; neither symmetric nor
@@ -105,38 +103,27 @@ struct PlainWord {
     }
 };
 
-// The slow, obvious way: cut every row and column at its black squares; pieces of two cells or more
-// are words. In the order of their clues: by first cell, across before down.
+// The slow, obvious way: from every cell with none before it go on to the next black square. In the
+// order of their clues: by first cell, across before down.
 inline std::vector<PlainWord> WordsOf(const BoardRows& rows) {
     std::vector<PlainWord> words;
     const int height = static_cast<int>(rows.size());
     const int width = static_cast<int>(rows[0].size());
-    const auto cut = [&words](const std::string& line, int direction, int place) {
-        for (std::size_t start = 0; start < line.size(); ++start) {
-            const std::size_t end = std::min(line.find('.', start), line.size());
-            const int first = static_cast<int>(start);
-            const int length = static_cast<int>(end - start);
-            if (length >= 2) {
-                words.push_back(direction == 0 ? PlainWord{place, first, length, 0}
-                                               : PlainWord{first, place, length, 1});
-            }
-            start = end;
-        }
+    const auto isLetter = [&](int row, int col) {
+        return row >= 0 && row < height && col >= 0 && col < width &&
+               rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] != '.';
     };
-    for (int row = 0; row < height; ++row) {
-        cut(rows[static_cast<std::size_t>(row)], 0, row);
-    }
-    for (int col = 0; col < width; ++col) {
-        std::string column;
-        for (const std::string& row : rows) {
-            column += row[static_cast<std::size_t>(col)];
+    for (int i = 0; i < 2 * width * height; ++i) {
+        PlainWord word{i / 2 / width, i / 2 % width, 0, i % 2};
+        const int down = word.direction;
+        const int right = 1 - down;
+        while (isLetter(word.row + word.length * down, word.col + word.length * right)) {
+            ++word.length;
         }
-        cut(column, 1, col);
+        if (word.length >= 2 && !isLetter(word.row - down, word.col - right)) {
+            words.push_back(word);
+        }
     }
-    std::sort(words.begin(), words.end(), [width](const PlainWord& a, const PlainWord& b) {
-        return 2 * (a.row * width + a.col) + a.direction <
-               2 * (b.row * width + b.col) + b.direction;
-    });
     return words;
 }
 

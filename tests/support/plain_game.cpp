@@ -96,9 +96,7 @@ std::string PlainRecord(const std::string& path, const BoardRows& letters,
     record.resize(path.size() + 4);
     record += std::to_string(letters[0].size());
     record.resize(path.size() + 7);
-    for (const std::string& row : letters) {
-        record += row;
-    }
+    record += Joined(letters);
     for (int number : {settings.size, settings.autoSkip ? 1 : 0, settings.numbers ? 1 : 0}) {
         record += '\0' + std::to_string(number);
     }
@@ -193,18 +191,6 @@ std::vector<PlainCell> PlainGame::CellsOf(const std::string& scope) const {
     return cells;
 }
 
-std::u16string PlainGame::ClueText() const {
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        const PlainWord& word = words[i];
-        if (word.direction == direction && word.Contains(selected.row, selected.col)) {
-            return Widen(std::to_string(numbers.at({word.row, word.col})) +
-                         (direction == 0 ? " a: " : " d: ") + "Clue " + std::to_string(i) + " (" +
-                         std::to_string(word.length) + ")");
-        }
-    }
-    return {};
-}
-
 // What the stylus does.
 
 void PlainGame::Tap(POINT point) {
@@ -290,19 +276,19 @@ void PlainGame::Drag(POINT from, POINT to) {
 
 void PlainGame::TapKey(POINT point) {
     static const auto keys = AllKeys();
-    int tapped = 0;
     for (const auto& [name, key] : keys) {
         const RECT& zone = key.taps;
-        const bool inside = point.x >= zone.left && point.x <= zone.right && point.y >= zone.top &&
-                            point.y <= zone.bottom;
-        tapped = inside ? name : tapped;
-    }
-    if (tapped == okKey) {
-        ToggleKeyboard();
-    } else if (tapped == eraseKey) {
-        Erase();
-    } else if (tapped != 0) {
-        Enter(tapped);
+        if (point.x < zone.left || point.x > zone.right || point.y < zone.top ||
+            point.y > zone.bottom) {
+            continue;
+        }
+        if (name == okKey) {
+            ToggleKeyboard();
+        } else if (name == eraseKey) {
+            Erase();
+        } else {
+            Enter(name);
+        }
     }
     ShowView();
 }
@@ -418,7 +404,10 @@ void PlainGame::Choose(const std::string& item) {
     if (item == "Toggle/Auto Skip") {
         settings.autoSkip = !settings.autoSkip;
     } else if (item == "Small" || item == "Medium" || item == "Large") {
-        ChooseSize(item);
+        settings.size = item == "Small" ? 0 : item == "Medium" ? 1 : 2;
+        selected = {};
+        LayOut();
+        Repaint(false);
     } else if (menu == "View" || menu == item) {
         PaintHint(last);
     } else {
@@ -430,13 +419,6 @@ void PlainGame::Choose(const std::string& item) {
         }
         Repaint(true);
     }
-}
-
-void PlainGame::ChooseSize(const std::string& name) {
-    settings.size = name == "Small" ? 0 : name == "Medium" ? 1 : 2;
-    selected = {};
-    LayOut();
-    Repaint(false);
 }
 
 // Neither bevels nor a highlight; wrong letters are red.
@@ -477,9 +459,7 @@ void PlainGame::ToggleKeyboard() {
     } else {
         ScrollToWord();
     }
-    PaintBar();
-    PaintKeyboard();
-    ShowView();
+    ShowAll();
 }
 
 void PlainGame::TogglePanel() {
@@ -499,8 +479,7 @@ void PlainGame::LayOutBelow(int viewHeightBefore) {
     } else if (scroll.y + viewHeightBefore >= ViewHeight()) {
         scroll.y += viewHeightBefore - ViewHeight();
     }
-    PaintBar();
-    ShowView();
+    ShowAll();
 }
 
 // How it looks.
@@ -569,25 +548,34 @@ void PlainGame::PaintHint(const std::string& scope) {
         // It must not run over the neighbour, which is not painted after it.
         WriteNumber(selected, 0);
     }
-    PaintBar();
-    PaintKeyboard();
-    ShowView();
+    ShowAll();
 }
 
 void PlainGame::PaintBar() {
     const int top = ViewHeight();
-    screen->Fill({0, top, 240, top + 22}, white, white);
-    screen->Write(ClueText(), {1, top, 239, top + 22}, {u"System", -10, 0}, DT_WORDBREAK, black);
-}
-
-void PlainGame::PaintKeyboard() {
-    if (keyboardUp) {
-        DrawPicture(screen->context, bitmapKeyboard, {0, 225, 240, 269});
+    std::u16string clue;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const PlainWord& word = words[i];
+        if (word.direction == direction && word.Contains(selected.row, selected.col)) {
+            clue = Widen(std::to_string(numbers.at({word.row, word.col})) +
+                         (direction == 0 ? " a: " : " d: ") + "Clue " + std::to_string(i) + " (" +
+                         std::to_string(word.length) + ")");
+        }
     }
+    screen->Fill({0, top, 240, top + 22}, white, white);
+    screen->Write(clue, {1, top, 239, top + 22}, {u"System", -10, 0}, DT_WORDBREAK, black);
 }
 
 void PlainGame::ShowView() {
     BitBlt(screen->context, 0, 0, 240, ViewHeight(), board->context, scroll.x, scroll.y, SRCCOPY);
+}
+
+void PlainGame::ShowAll() {
+    PaintBar();
+    if (keyboardUp) {
+        DrawPicture(screen->context, bitmapKeyboard, {0, 225, 240, 269});
+    }
+    ShowView();
 }
 
 void PlainGame::Repaint(bool highlighted) {
@@ -595,19 +583,13 @@ void PlainGame::Repaint(bool highlighted) {
     if (highlighted) {
         PaintWord();
     }
-    PaintBar();
-    PaintKeyboard();
-    ShowView();
+    ShowAll();
 }
 
 void PlainGame::ExpectSame(Handheld& handheld) const {
     ASSERT_TRUE(handheld.Running());
-    std::string entered;
-    for (const std::string& row : letters) {
-        entered += row;
-    }
     ASSERT_EQ(std::string(PlayerGrid, static_cast<std::size_t>(PuzzleWidth * PuzzleHeight)),
-              entered);
+              Joined(letters));
     ASSERT_EQ(std::tuple(CursorRow, CursorCol, Direction),
               std::tuple(selected.row, selected.col, direction));
     ASSERT_EQ(std::tuple(ScrollX, ScrollY, KeyboardVisible),

@@ -79,7 +79,6 @@ private:
     char Solution(PlainCell cell) const;
     PlainWord SelectedWord() const;
     std::vector<PlainCell> CellsOf(const std::string& scope) const;
-    std::u16string ClueText() const;
 
     bool TapBoard(POINT point, bool held);
     void TapKey(POINT point);
@@ -89,7 +88,6 @@ private:
     void ScrollToWord();
     void LayOut();
     void LayOutBelow(int viewHeightBefore);
-    void ChooseSize(const std::string& name);
 
     void WriteLetter(PlainCell cell, char letter, COLORREF color);
     void WriteNumber(PlainCell cell, int reach);
@@ -97,8 +95,8 @@ private:
     void PaintWord(bool solved = false);
     void PaintHint(const std::string& scope);
     void PaintBar();
-    void PaintKeyboard();
     void ShowView();
+    void ShowAll();
     void Repaint(bool highlighted);
 
     struct Canvas;
