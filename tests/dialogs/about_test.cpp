@@ -7,7 +7,6 @@
 #include "resources/ids.h"
 #include "support/dialogs.h"
 #include "support/looks.h"
-#include "support/menus.h"
 #include "support/opened_pages.h"
 #include "support/played_board.h"
 
@@ -16,8 +15,7 @@ namespace {
 class About : public PlayedBoard {
 protected:
     void Use(const std::function<void(OpenDialog&)>& use) {
-        UseDialog(
-            *handheld, [this] { handheld->PressButton("About Quadrel"); }, use);
+        UseDialog(*handheld, commandAbout, use);
     }
 };
 
@@ -92,8 +90,7 @@ TEST_F(About, LinksOpenInsideTheirAreasOnly) {
 
 TEST_F(About, QuickHelpOpensTheHelpAsOftenAsAsked) {
     OpenedPages pages;
-    const auto open = [this] { ChooseFromBar(*handheld, "Main Menu", {"Help"}); };
-    UseDialog(*handheld, open, [&](OpenDialog& dialog) {
+    UseDialog(*handheld, commandHelp, [&](OpenDialog& dialog) {
         for (int time = 0; time < 2; ++time) {
             dialog.Tap(controlHelpOpen);
             EXPECT_EQ(pages.Take(), std::vector<std::string>{""});

@@ -12,60 +12,52 @@ namespace {
 class Preferences : public PlayedBoard {
 protected:
     void Use(const std::function<void(OpenDialog&)>& use) {
-        UseDialog(
-            *handheld, [this] { ChooseFromBar(*handheld, "Main Menu", {"Preferences"}); }, use);
-    }
-    static std::vector<int> Settings() {
-        return {Magnification.Small, Magnification.Medium, Magnification.Large, AutoSkip,
-                ShowNumbers};
+        UseDialog(*handheld, commandPreferences, use);
     }
 };
+
+using Settings = std::vector<int>;
+
+Settings Taken() {
+    return {Magnification.Small, Magnification.Medium, Magnification.Large, AutoSkip, ShowNumbers};
+}
+
+constexpr int settingControls[] = {controlSmall, controlMedium, controlLarge, controlAutoSkip,
+                                   controlShowNumbers};
 
 TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
     Play(BoardRows(20, "ABC.DEF.GHI.JKL.MNO."), mediumSize);
     handheld->Drag({120, 120}, {20, 20});
     ASSERT_GT(ScrollX, 0);
     SelectCell(3, 5, 1);
-    const std::pair<int, std::vector<int>> changes[] = {
+    const std::pair<int, Settings> changes[] = {
         {controlMedium, {0, 1, 0, 0, 0}},   {controlLarge, {0, 0, 1, 0, 0}},
         {controlAutoSkip, {0, 0, 1, 1, 0}}, {controlShowNumbers, {0, 0, 1, 1, 1}},
         {controlAutoSkip, {0, 0, 1, 0, 1}}, {controlSmall, {1, 0, 0, 0, 1}},
     };
-    for (const auto& [control, expected] : changes) {
-        SCOPED_TRACE(control);
-        const std::vector<int> before = Settings();
-        Use([&, changed = control](OpenDialog& dialog) {
-            std::vector<int> shown;
-            for (int each :
-                 {controlSmall, controlMedium, controlLarge, controlAutoSkip, controlShowNumbers}) {
-                shown.push_back(dialog.Find<QAbstractButton>(each)->isChecked());
+    for (const auto& change : changes) {
+        const Settings before = Taken();
+        Use([&](OpenDialog& dialog) {
+            Settings shown;
+            for (int control : settingControls) {
+                shown.push_back(dialog.Find<QAbstractButton>(control)->isChecked());
             }
             EXPECT_EQ(shown, before);
-            dialog.Tap(changed);
-            EXPECT_EQ(Settings(), before);
-            dialog.Tap(commandClose);
-            EXPECT_FALSE(dialog.IsOpen());
+            dialog.Tap(change.first);
+            EXPECT_EQ(Taken(), before);
         });
-        EXPECT_EQ(Settings(), expected);
+        EXPECT_EQ(Taken(), change.second);
         EXPECT_EQ(std::tuple(CursorRow, ScrollX, ScrollY), std::tuple(3, 0, 0));
         ExpectFullRepaint();
     }
-    EXPECT_TRUE(ChecksOf(*handheld, "Puzzle magnification")["Small"]);
     EXPECT_TRUE(ChecksOf(*handheld, "Main Menu")["Toggle/Numbers"]);
-}
-
-TEST_F(Preferences, TheArrowsChooseASize) {
     Use([](OpenDialog& dialog) {
-        EXPECT_TRUE(dialog.HasFocus(controlSmall));
         EXPECT_TRUE(dialog.Find<QWidget>(controlColorGroup)->font().bold());
-        dialog.Press(Qt::Key_Right);
-        dialog.Press(Qt::Key_Tab);
-        EXPECT_TRUE(dialog.HasFocus(controlAutoSkip));
-        dialog.Press(Qt::Key_Space);
-        dialog.Press(Qt::Key_Return);
-        EXPECT_FALSE(dialog.IsOpen());
+        for (int key : {Qt::Key_Right, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
+            dialog.Press(key);
+        }
     });
-    EXPECT_EQ(Settings(), (std::vector<int>{0, 1, 0, 1, 0}));
+    EXPECT_EQ(Taken(), (Settings{0, 1, 0, 1, 1}));
 }
 
 // The colours that players mix themselves are kept for the run.
@@ -74,22 +66,18 @@ TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
     constexpr COLORREF green = RGB(10, 120, 30);
     constexpr COLORREF cream = RGB(250, 240, 220);
     Use([&](OpenDialog& dialog) {
-        PickNextColor(green, true);
         CompareNextBox("Color chooser");
-        dialog.Tap(controlSquareColor);
-        PickNextColor(cream, true);
-        dialog.Tap(controlBackgroundColor);
-        EXPECT_EQ(std::pair(SquareColor, BackgroundColor), std::pair(green, cream));
         for (const auto& [control, color] :
              {std::pair(controlSquareColor, green), {controlBackgroundColor, cream}}) {
+            PickNextColor(color, true);
+            dialog.Tap(control);
             const QImage button = dialog.Find<QWidget>(control)->grab().toImage();
             EXPECT_EQ(ColorAt(button, button.width() / 2, button.height() / 2), color);
         }
-        QColorDialog::setCustomColor(0, Qt::white);
         SquareColorChooser.lpCustColors[3] = RGB(1, 23, 45);
         PickNextColor(RGB(1, 2, 3), false);
         dialog.Tap(controlSquareColor);
-        EXPECT_EQ(SquareColor, green);
+        EXPECT_EQ(std::pair(SquareColor, BackgroundColor), std::pair(green, cream));
         EXPECT_EQ(QColorDialog::customColor(3), QColor(1, 23, 45));
         EXPECT_EQ(QColorDialog::customColor(8), QColor(Qt::black));
         EXPECT_EQ(QColorDialog::customColor(15), QColor(96, 96, 96));

@@ -2,13 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <QtGui/QKeyEvent>
+#include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QTabBar>
 
+#include "app/view.h"
 #include "platform/dialogs.h"
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/host/host_window.h"
@@ -36,7 +37,13 @@ void UseDialog(Handheld& handheld, const std::function<void()>& open,
     open();
     handheld.Settle();
     EXPECT_TRUE(used);
-    UseNextDialog(nullptr);
+}
+
+void UseDialog(Handheld& handheld, int command, const std::function<void(OpenDialog&)>& use) {
+    const auto open = [command] {
+        PostMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(command), 0);
+    };
+    UseDialog(handheld, open, use);
 }
 
 OpenDialog::OpenDialog(Handheld& its) : handheld(its), window(TopWindow()) {
@@ -102,10 +109,7 @@ void OpenDialog::Press(int key) {
 
 void OpenDialog::Type(int edit, const QString& text) {
     Widget(edit)->setFocus(Qt::TabFocusReason);
-    for (QChar each : text) {
-        QKeyEvent press(QEvent::KeyPress, each.toUpper().unicode(), Qt::NoModifier, each);
-        QCoreApplication::sendEvent(Widget(edit), &press);
-    }
+    QTest::keyClicks(Widget(edit), text);
     handheld.Settle();
 }
 

@@ -54,3 +54,5 @@ private:
 // in its title bar. Fails when no dialog opens.
 void UseDialog(Handheld& handheld, const std::function<void()>& open,
                const std::function<void(OpenDialog&)>& use);
+// Opens it by its command.
+void UseDialog(Handheld& handheld, int command, const std::function<void(OpenDialog&)>& use);

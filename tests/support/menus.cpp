@@ -1,24 +1,13 @@
 #include "support/menus.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QPointer>
-#include <QtGui/QKeyEvent>
+#include <QtTest/QTest>
 #include <QtWidgets/QMenu>
 
 #include "platform/qt/host/host_window.h"
 #include "support/message_boxes.h"
 
 void SendKey(QWidget* widget, int key, Qt::KeyboardModifiers modifiers) {
-    // A letter comes with its text.
-    const QString text =
-        key < 0x80 && modifiers == Qt::NoModifier ? QString(QChar(key)) : QString();
-    const QPointer<QWidget> present = widget;
-    for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, modifiers, text);
-        if (present != nullptr) {
-            QCoreApplication::sendEvent(present, &event);
-        }
-    }
+    QTest::keyClick(widget, static_cast<Qt::Key>(key), modifiers);
 }
 
 namespace {
@@ -39,15 +28,9 @@ bool Choose(QMenu* menu, const ItemPath& path) {
         return false;
     }
     QMenu* submenu = menu->activeAction()->menu();
-    if (path.size() == 1) {
-        SendKey(menu, Qt::Key_Return);
-        return true;
-    }
-    if (submenu == nullptr) {
-        return false;
-    }
-    SendKey(menu, Qt::Key_Right);
-    return submenu->isVisible() && Choose(submenu, path.mid(1));
+    const bool isLast = path.size() == 1;
+    SendKey(menu, isLast ? Qt::Key_Return : Qt::Key_Right);
+    return isLast || (submenu != nullptr && submenu->isVisible() && Choose(submenu, path.mid(1)));
 }
 
 void PlanChoice(const ItemPath& path, bool& chosen) {

@@ -24,29 +24,24 @@
 
 namespace {
 
-std::deque<int> plannedAnswers;
-std::deque<std::filesystem::path> plannedFiles;
-struct PlannedColor {
-    COLORREF color;
-    bool accept;
-};
-std::deque<PlannedColor> plannedColors;
+// What is done with the next boxes of that kind.
+template <typename Box>
+std::deque<std::function<void(Box*)>> plans;
+std::function<void()> duringNextBox;
+std::string comparedName;
 std::vector<ShownChooser> shownChoosers;
 std::vector<ShownMessage> shownMessages;
 int openedMenus = 0;
-std::function<void()> duringNextBox;
-std::function<void(QMenu*)> useOfNextMenu;
-std::function<void()> useOfNextDialog;
-std::string comparedName;
 
-template <typename Value>
-Value TakeNext(std::deque<Value>& planned, Value otherwise) {
-    if (planned.empty()) {
-        return otherwise;
+template <typename Box>
+bool FollowsPlan(Box* box) {
+    if (plans<Box>.empty()) {
+        return false;
     }
-    Value next = planned.front();
-    planned.pop_front();
-    return next;
+    const auto plan = plans<Box>.front();
+    plans<Box>.pop_front();
+    plan(box);
+    return true;
 }
 
 // Whatever it says: all of it can be seen, in a box not much wider than the game.
@@ -71,10 +66,7 @@ void Answer(QDialog* box) {
     if (duringNextBox) {
         std::exchange(duringNextBox, nullptr)();
     }
-    const int answer = TakeNext(plannedAnswers, 0);
-    if (auto* button = box->findChild<QPushButton*>(QString::number(answer))) {
-        button->click();
-    } else {
+    if (!FollowsPlan(box)) {
         box->close();
     }
 }
@@ -87,39 +79,24 @@ void Answer(QFileDialog* dialog) {
     shownChoosers.push_back({dialog->windowTitle().toStdU16String(),
                              dialog->directory().absolutePath().toStdString(),
                              dialog->findChild<QLineEdit*>()->text().toStdString()});
-    const std::filesystem::path file = TakeNext(plannedFiles, std::filesystem::path());
-    if (file.empty()) {
+    if (!FollowsPlan(dialog)) {
         dialog->reject();
-        return;
     }
-    if (file != asSuggested) {
-        dialog->selectFile(QString::fromStdString(file.string()));
-    }
-    // As a press of the button does, so that the chooser's own checks run.
-    QMetaObject::invokeMethod(dialog, "accept");
 }
 
 void Answer(QColorDialog* dialog) {
-    const PlannedColor planned = TakeNext(plannedColors, PlannedColor{0, false});
-    dialog->setCurrentColor(
-        QColor(GetRValue(planned.color), GetGValue(planned.color), GetBValue(planned.color)));
-    const auto button = planned.accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
-    dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+    FollowsPlan(dialog);
 }
 
 void Answer(QMenu* menu) {
-    if (useOfNextMenu) {
-        std::exchange(useOfNextMenu, nullptr)(menu);
-        return;
-    }
     ++openedMenus;
-    menu->close();
+    if (!FollowsPlan(menu)) {
+        menu->close();
+    }
 }
 
 void Answer(DialogView* dialog) {
-    if (useOfNextDialog) {
-        std::exchange(useOfNextDialog, nullptr)();
-    } else {
+    if (!FollowsPlan(dialog)) {
         EndDialog(dialog->ShownWindow(), 0);
     }
 }
@@ -159,7 +136,10 @@ void AnswerBoxes() {
 }
 
 void AnswerNextMessageBox(int answer) {
-    plannedAnswers.push_back(answer);
+    plans<QDialog>.emplace_back([answer](QDialog* box) {
+        auto* button = box->findChild<QPushButton*>(QString::number(answer));
+        button != nullptr ? button->click() : box->reject();
+    });
 }
 
 void DoDuringNextMessageBox(std::function<void()> action) {
@@ -174,29 +154,39 @@ std::vector<ShownMessage> TakeShownMessages() {
     return std::exchange(shownMessages, {});
 }
 
+// The button's own way, so that the chooser's checks run.
 void ChooseNextFile(const std::filesystem::path& file) {
-    plannedFiles.push_back(file);
+    plans<QFileDialog>.emplace_back([file](QFileDialog* dialog) {
+        if (file != asSuggested) {
+            dialog->selectFile(QString::fromStdString(file.string()));
+        }
+        QMetaObject::invokeMethod(dialog, file.empty() ? "reject" : "accept");
+    });
+}
+
+void PickNextColor(COLORREF color, bool accept) {
+    plans<QColorDialog>.emplace_back([color, accept](QColorDialog* dialog) {
+        dialog->setCurrentColor(QColor(GetRValue(color), GetGValue(color), GetBValue(color)));
+        const auto button = accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
+        dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+    });
 }
 
 void UseNextMenu(std::function<void(QMenu*)> use) {
-    useOfNextMenu = std::move(use);
+    plans<QMenu> = {std::move(use)};
 }
 
 void UseNextDialog(std::function<void()> use) {
-    useOfNextDialog = std::move(use);
+    plans<DialogView> = {[use = std::move(use)](DialogView*) { use(); }};
 }
 
 void CompareNextBox(const std::string& name) {
     comparedName = name;
 }
 
-void PickNextColor(COLORREF color, bool accept) {
-    plannedColors.push_back({color, accept});
-}
-
 void ForgetPlans() {
-    plannedAnswers.clear();
-    plannedFiles.clear();
+    plans<QDialog>.clear();
+    plans<QFileDialog>.clear();
     duringNextBox = nullptr;
 }
 
