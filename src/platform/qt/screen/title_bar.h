@@ -21,5 +21,5 @@ protected:
 
 private:
     QString title;
-    QAbstractButton* doneButton = nullptr;  // made for the first dialog
+    QAbstractButton* doneButton;
 };

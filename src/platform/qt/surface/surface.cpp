@@ -152,12 +152,6 @@ void Surface::Paint(QPainter& painter) {
     pixelsWanted = true;
 }
 
-void Surface::RenderAll() {
-    for (Surface* surface : surfaces) {
-        surface->Render();
-    }
-}
-
 void Surface::Render() {
     RenderWithin(WholeArea(*picture));
 }

