@@ -1,4 +1,3 @@
-#include <QtCore/QCoreApplication>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QTabBar>
 
@@ -23,50 +22,41 @@ struct KnownDialog {
 class EveryDialog : public PlayedBoard, public testing::WithParamInterface<KnownDialog> {
 protected:
     void Use(const std::function<void(OpenDialog&)>& use) {
-        const auto open = [this] {
-            EXPECT_TRUE(GetParam().item == nullptr
-                            ? handheld->PressButton(GetParam().button)
-                            : ChooseFromBar(*handheld, GetParam().button,
-                                            QString(GetParam().item).split('/')));
-        };
-        UseDialog(*handheld, open, use);
+        UseDialog(*handheld, GetParam().command, use);
     }
 };
 
-TEST_P(EveryDialog, ClosesByItsButtonTheTitleBarAndEscapeFromEverySize) {
+// Only the preferences bring the highlight back.
+TEST_P(EveryDialog, LeavesTheScreenAsItWasWhicheverWayItCloses) {
+    const auto& [title, button, item, command, okButton] = GetParam();
+    const auto open = [&] {
+        EXPECT_TRUE(item == nullptr
+                        ? handheld->PressButton(button)
+                        : ChooseFromBar(*handheld, button, QString(item).split('/')));
+    };
     const std::function<void(OpenDialog&)> ways[] = {
-        [](OpenDialog& dialog) { dialog.Tap(GetParam().okButton); },
+        [&](OpenDialog& dialog) { dialog.Tap(okButton); },
         [](OpenDialog& dialog) { dialog.TapTitleOk(); },
         [](OpenDialog& dialog) { dialog.Press(Qt::Key_Escape); },
     };
     for (const MagnificationFlags& size : {smallSize, mediumSize, largeSize}) {
         Play(squareBoard, size);
-        const int roomy = ViewHeight;
+        RepaintFully(MainWindow);
+        SendMessageW(MainWindow, command == commandPreferences ? 0 : WM_PAINT, 0, 0);
+        const QImage screen = handheld->Screen();
         for (const auto& way : ways) {
             handheld->PressPanelButton();
-            Use([&](OpenDialog& dialog) {
-                EXPECT_EQ(dialog.Title(), GetParam().title);
+            UseDialog(*handheld, open, [&](OpenDialog& dialog) {
+                EXPECT_EQ(dialog.Title(), title);
                 EXPECT_FALSE(Host().PanelUp());
                 way(dialog);
                 EXPECT_FALSE(dialog.IsOpen());
             });
-            EXPECT_EQ(ViewHeight, roomy);
+            EXPECT_EQ(handheld->Screen(), screen);
         }
         handheld->Press(Qt::Key_X);
         EXPECT_EQ(PlayerLetters()[0], 'X') << "keys no longer arrive";
     }
-}
-
-// Only the preferences bring the highlight back.
-TEST_P(EveryDialog, LeavesTheBoardAndTheKeyboardAsTheyWere) {
-    Play(squareBoard, smallSize);
-    ShowKeyboard(MainWindow);
-    const UINT repaint = GetParam().command == commandPreferences ? 0 : WM_PAINT;
-    RepaintFully(MainWindow);
-    SendMessageW(MainWindow, repaint, 0, 0);
-    const QImage screen = handheld->Screen();
-    Use([](OpenDialog&) {});
-    EXPECT_EQ(handheld->Screen(), screen);
 }
 
 TEST_P(EveryDialog, AnImpatientHandOpensItOnce) {
