@@ -34,7 +34,7 @@ void ShowLastError(HWND dialog, std::u16string_view what) {
 struct ChosenFile {
     WCHAR path[MAX_PATH] = {};
     HANDLE handle = INVALID_HANDLE_VALUE;
-    std::string replacedSolution;  // of the puzzle that was there before, empty for none
+    PuzzleIdentity replaced;  // the puzzle that was there before
 
     ChosenFile() = default;
     ~ChosenFile() {
@@ -49,7 +49,7 @@ struct ChosenFile {
 };
 
 bool ChosenFile::Create() {
-    replacedSolution = SolutionOfFile(path);
+    replaced = IdentityOfFile(path);
     handle =
         CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     return handle != INVALID_HANDLE_VALUE;
@@ -71,7 +71,7 @@ bool ChosenFile::Close() {
     if (!CloseHandle(std::exchange(handle, INVALID_HANDLE_VALUE))) {
         return false;
     }
-    if (replacedSolution.empty() || !IsSamePuzzle(SolutionOfFile(path), replacedSolution)) {
+    if (replaced.side == 0 || !IsSamePuzzle(IdentityOfFile(path), replaced)) {
         DeleteProgressOf(path);
     }
     return true;

@@ -2,8 +2,7 @@
 
 #include <array>
 #include <cstring>
-#include <functional>
-#include <numeric>
+#include <string>
 
 #include "model/file_bytes.h"
 #include "model/numbering.h"
@@ -41,9 +40,9 @@ struct Candidate {
     }
 };
 
-std::string Solution(int width, int height, const char* cells) {
-    std::string solution = {static_cast<char>(width), static_cast<char>(height)};
-    return solution.append(cells, static_cast<std::size_t>(width * height));
+bool IsLocked(const char* image) {
+    constexpr int lockOffset = 50;
+    return image[lockOffset] != 0 || image[lockOffset + 1] != 0;
 }
 
 }  // namespace
@@ -72,25 +71,33 @@ bool PeekPuzzleSize(const WCHAR* path, int* width, int* height) {
     return true;
 }
 
-std::string SolutionOfFile(const WCHAR* path) {
+PuzzleIdentity IdentityOfFile(const WCHAR* path) {
     const Candidate candidate(path);
-    if (!candidate.IsPlayable() || candidate.Width() != candidate.Height() ||
-        candidate.Width() == 0) {
+    const int side = candidate.Width();
+    if (!candidate.IsPlayable() || side != candidate.Height() || side == 0) {
         return {};
     }
-    return Solution(candidate.Width(), candidate.Height(), candidate.bytes.data() + gridOffset);
+    const char* image = candidate.bytes.data();
+    return {side, IsLocked(image), {image + gridOffset, static_cast<std::size_t>(side * side)}};
 }
 
-std::string SolutionInPlay() {
-    return Solution(PuzzleWidth, PuzzleHeight, SolutionGrid);
+PuzzleIdentity IdentityInPlay() {
+    return {PuzzleWidth,
+            IsLocked(PuzzleImage),
+            {SolutionGrid, static_cast<std::size_t>(PuzzleWidth * PuzzleHeight)}};
 }
 
-bool IsSamePuzzle(const std::string& solution, const std::string& other) {
-    if (solution.size() != other.size()) {
+bool IsSamePuzzle(const PuzzleIdentity& puzzle, const PuzzleIdentity& other) {
+    if (puzzle.solution.size() != other.solution.size()) {
         return false;
     }
-    const std::size_t agreeing =
-        std::inner_product(solution.begin(), solution.end(), other.begin(), std::size_t{0},
-                           std::plus<>(), std::equal_to<>());
-    return 2 * agreeing > solution.size();
+    std::size_t agreeing = 0;
+    for (std::size_t i = 0; i < puzzle.solution.size(); ++i) {
+        const char cell = puzzle.solution[i];
+        if ((cell == blackSquare) != (other.solution[i] == blackSquare)) {
+            return false;
+        }
+        agreeing += cell == other.solution[i] ? 1 : 0;
+    }
+    return puzzle.isLocked || other.isLocked || 2 * agreeing > puzzle.solution.size();
 }

@@ -14,11 +14,15 @@ bool ReadPuzzleFile(WCHAR* path);
 // not read the file; nobody is told, and nothing changes.
 bool PeekPuzzleSize(const WCHAR* path, int* width, int* height);
 
-// The two size bytes and the solution: what makes two files the same puzzle, to which a player's
-// letters belong. Of a file that can be played, empty for any other; and of the puzzle in play,
-// whose size must fit the arrays.
-std::string SolutionOfFile(const WCHAR* path);
-std::string SolutionInPlay();
-// A solution that was corrected is the same puzzle's still; another one of the same size, and even
-// of the same black squares, has few letters in common.
-bool IsSamePuzzle(const std::string& solution, const std::string& other);
+// What makes two files the same puzzle, to which a player's letters belong.
+struct PuzzleIdentity {
+    int side = 0;  // 0 of a file that cannot be played
+    bool isLocked = false;
+    std::string solution;  // of a locked puzzle, scrambled
+};
+PuzzleIdentity IdentityOfFile(const WCHAR* path);
+// Of the puzzle in play, whose size must fit the arrays.
+PuzzleIdentity IdentityInPlay();
+// A solution that was corrected or unlocked is the same puzzle's still; another one, even of the
+// same black squares, has few letters in common.
+bool IsSamePuzzle(const PuzzleIdentity& puzzle, const PuzzleIdentity& other);

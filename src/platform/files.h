@@ -23,6 +23,13 @@ constexpr DWORD CREATE_ALWAYS = 2;
 constexpr DWORD OPEN_EXISTING = 3;
 constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
 constexpr DWORD FILE_ATTRIBUTE_DIRECTORY = 0x10;
+constexpr DWORD FILE_FLAG_OVERLAPPED = 0x40000000;
+
+// Counts up; what is newer is larger.
+struct FILETIME {
+    DWORD dwLowDateTime = 0;
+    DWORD dwHighDateTime = 0;
+};
 
 struct WIN32_FIND_DATAW {
     DWORD dwFileAttributes = 0;
@@ -41,13 +48,23 @@ BOOL WriteFile(HANDLE file, const void* buffer, DWORD size, DWORD* bytesWritten,
 // FALSE when a written file could not take its place; the handle is gone in any case.
 BOOL CloseHandle(HANDLE file);
 
+// A file written with FILE_FLAG_OVERLAPPED among its attributes takes its place after CloseHandle
+// has returned, so that nobody waits for a slow disk; whatever is done with files next waits for
+// it. 0, or why one could not take its place since this was asked last.
+DWORD AwaitFiles();
+
+// When a file that is open for reading was last written; the other times are not told. FALSE for
+// any other handle.
+BOOL GetFileTime(HANDLE file, FILETIME* created, FILETIME* accessed, FILETIME* written);
+
 // Both FALSE on failure; an existing folder is one.
 BOOL DeleteFileW(const WCHAR* path);
 BOOL CreateDirectoryW(const WCHAR* path, void* security);
 
-// The first file or folder, in the order of names, that fits a pattern like "\folder\*.puz",
-// upper and lower case alike. Null when none fits.
+// The files and folders, in the order of names, that fit a pattern like "\folder\*.puz", upper and
+// lower case alike. Null when none fits, and FALSE when no other does.
 HFIND FindFirstFileW(const WCHAR* pattern, WIN32_FIND_DATAW* data);
+BOOL FindNextFileW(HFIND search, WIN32_FIND_DATAW* data);
 BOOL FindClose(HFIND search);
 
 // The program file's device path; returns its length, 0 when the buffer is too short.

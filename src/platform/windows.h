@@ -26,6 +26,10 @@ constexpr UINT WM_TIMER = 275;
 constexpr UINT WM_MOUSEMOVE = 512;
 constexpr UINT WM_LBUTTONDOWN = 513;
 constexpr UINT WM_LBUTTONUP = 514;
+// The platform's own, sent while the program is played, so that nothing is lost in a crash: its
+// state should be on the disk soon. The answer is not 0 when it should be asked again, because a
+// file is still on its way.
+constexpr UINT WM_KEEPSTATE = 0x8001;
 
 constexpr WPARAM SIZE_RESTORED = 0;
 constexpr WPARAM SIZE_MINIMIZED = 1;

@@ -1,15 +1,16 @@
 #include "storage/open_puzzle.h"
 
+#include <array>
 #include <string>
 
+#include "model/file_bytes.h"
 #include "model/puzzle.h"
 #include "model/puzzle_file.h"
 #include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
-#include "platform/files.h"
 #include "platform/text.h"
+#include "storage/letters.h"
 #include "storage/paths.h"
-#include "storage/progress.h"
 #include "storage/restored_grid.h"
 
 namespace {
@@ -58,28 +59,35 @@ bool IsPlayable(HWND owner, const ChosenFile& chosen) {
     return width == height && width != 0;
 }
 
-void SaveProgressOfCurrentPuzzle() {
-    WCHAR path[MAX_PATH];
-    if (CurrentPuzzlePath[0] != 0 && ProgressFilePath(CurrentPuzzlePath, path)) {
-        SaveProgress(path);
+// Where no letters can be saved, they are lost only when the player says so.
+bool MayLetGo(HWND owner) {
+    if (CurrentPuzzlePath[0] == 0 || SaveLetters()) {
+        return true;
     }
+    return MessageBoxW(owner,
+                       u"The letters of this puzzle cannot be saved: the disk is full, or nothing "
+                       u"may be written there. Open the other puzzle and lose them?",
+                       dialogTitle, MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2) == IDYES;
 }
 
-bool RestoreProgress(const WCHAR* puzzlePath) {
-    WCHAR path[MAX_PATH];
-    return ProgressFilePath(puzzlePath, path) && LoadProgress(path);
+// The reader says so itself when a file is no puzzle.
+void TellIfUnreadable(HWND owner, const WCHAR* path) {
+    std::array<char, 1> firstByte;
+    if (ReadFileStart(path, firstByte) < 0) {
+        MessageBoxW(owner, u"This file could not be opened.", dialogTitle, MB_OK);
+    }
 }
 
 // The file is read before the chosen puzzle's letters are restored: when it turns out to be no
 // puzzle, the letters and settings in play are still there.
-void OpenChosenFile(const ChosenFile& chosen) {
+void OpenChosenFile(HWND owner, const ChosenFile& chosen) {
     WCHAR path[MAX_PATH];
-    SaveProgressOfCurrentPuzzle();
     CopyPath(chosen.path, path);
     if (!ReadPuzzleFile(path)) {
+        TellIfUnreadable(owner, chosen.path);
         return;
     }
-    ResetPlayerGrid = RestoreProgress(chosen.path) ? 0 : 1;
+    ResetPlayerGrid = LoadLetters(chosen.path) ? 0 : 1;
     CopyPath(chosen.path, CurrentPuzzlePath);
     ParseWithRestoredGrid();
 }
@@ -89,9 +97,9 @@ void OpenChosenFile(const ChosenFile& chosen) {
 int OpenPuzzleFile(HWND owner) {
     ChosenFile chosen;
     if (!ChooseFile(owner, chosen) || !ConfirmLoading(owner, chosen) ||
-        !IsPlayable(owner, chosen)) {
+        !IsPlayable(owner, chosen) || !MayLetGo(owner)) {
         return 0;
     }
-    OpenChosenFile(chosen);
+    OpenChosenFile(owner, chosen);
     return 1;
 }

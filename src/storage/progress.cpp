@@ -56,8 +56,8 @@ void PutColor(ProgressRecord& record, std::size_t offset, COLORREF color) {
 // A download may have put another puzzle in the place of the one in play, whose letters must not be
 // found there. A file that cannot be played now may come back.
 bool LettersHaveTheirPuzzle() {
-    const std::string solution = SolutionOfFile(CurrentPuzzlePath);
-    return solution.empty() || IsSamePuzzle(solution, SolutionInPlay());
+    const PuzzleIdentity puzzle = IdentityOfFile(CurrentPuzzlePath);
+    return puzzle.side == 0 || IsSamePuzzle(puzzle, IdentityInPlay());
 }
 
 // Returns the offset after the last cell. A file that is not square can leave sizes behind that no
@@ -188,11 +188,17 @@ void RestoreSettings(std::string_view record, std::size_t cellsEnd) {
 
 }  // namespace
 
-void SaveProgress(WCHAR* path) {
+std::string RecordOfPlay() {
     const ProgressRecord record = BuildRecord();
-    if (!WriteWholeFile(path, {record.data(), record.size()})) {
-        CopyPath(u"Could not open quadrel.dat", path);
+    return {record.data(), record.size()};
+}
+
+bool SaveProgress(WCHAR* path) {
+    if (WriteWholeFile(path, RecordOfPlay())) {
+        return true;
     }
+    CopyPath(u"Could not open quadrel.dat", path);
+    return false;
 }
 
 bool LoadProgress(WCHAR* path) {

@@ -2,14 +2,19 @@
 // the progress file beside every puzzle.
 #pragma once
 
+#include <string>
+
 #include "platform/types.h"
+
+// CurrentPuzzlePath, the board and the settings. The board is bare when the file of that path has
+// become another puzzle since.
+std::string RecordOfPlay();
 
 // Both take a path buffer of 260 wide characters and leave a short text in it when they fail.
 
-// Writes CurrentPuzzlePath, the board and the settings. The board is bare when the file of that
-// path has become another puzzle since. "Could not open quadrel.dat" when the file cannot be
-// created or written; an old file then stays as it was.
-void SaveProgress(WCHAR* path);
+// Writes that record. "Could not open quadrel.dat" when the file cannot be created or written; an
+// old file then stays as it was.
+bool SaveProgress(WCHAR* path);
 
 // Restores them. False with "Could not open User", and nothing changed, when there is no file or
 // its bytes are no whole record: the path does not end or is too long, a size lies outside 1 to 40,

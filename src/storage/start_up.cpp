@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "app/layout.h"
 #include "app/menu_bar.h"
@@ -11,6 +12,7 @@
 #include "dialogs/about_drawing.h"
 #include "dialogs/board_colors.h"
 #include "dialogs/clue_list.h"
+#include "model/file_bytes.h"
 #include "model/puzzle.h"
 #include "model/puzzle_file.h"
 #include "model/selection.h"
@@ -19,6 +21,7 @@
 #include "platform/resources.h"
 #include "platform/windows.h"
 #include "play/settings.h"
+#include "storage/letters.h"
 #include "storage/paths.h"
 #include "storage/progress.h"
 #include "storage/restored_grid.h"
@@ -26,6 +29,13 @@
 namespace {
 
 constexpr std::u16string_view stateFileName = u"quadrel.dat";
+constexpr const WCHAR* cannotBeSaved =
+    u"Your letters cannot be saved: the disk is full, or nothing may be written there. They are "
+    u"kept while Quadrel runs; make room, and they will be saved.";
+
+// What KeepState has written last, empty for nothing, and whether the player knows that it cannot.
+std::string keptRecord;
+bool playerKnows = false;
 
 void SetDefaultView(HWND window) {
     RECT client;
@@ -81,30 +91,60 @@ bool StateFilePath(WCHAR* buffer) {
     return PathInFolder(ProgramFolder, stateFileName, buffer);
 }
 
+// The letters are newer where the state could not be written, or a crash came before that.
 bool RestoreState() {
     WCHAR path[MAX_PATH];
-    return StateFilePath(path) && LoadProgress(path);
+    if (!StateFilePath(path) || !LoadProgress(path)) {
+        return false;
+    }
+    const std::u16string puzzle = CurrentPuzzlePath;
+    if (TimeOfLetters(puzzle.c_str()) > TimeWritten(path) && LoadLetters(puzzle.c_str())) {
+        CopyPath(puzzle, CurrentPuzzlePath);
+    }
+    return true;
 }
 
-// The first puzzle in the documents; false when there is none to be read.
-bool ReadFallbackPuzzle() {
+bool CanBePlayed(const WCHAR* path) {
+    int width = 0;
+    int height = 0;
+    return PeekPuzzleSize(path, &width, &height) && width == height && width != 0;
+}
+
+// Files that cannot be played are passed over.
+bool ReadFirstPuzzleIn(std::u16string_view folder) {
     WIN32_FIND_DATAW match;
     WCHAR path[MAX_PATH];
-    PathInFolder(documentsFolder, u"*.puz", path);
+    PathInFolder(folder, u"*.puz", path);
     HFIND search = FindFirstFileW(path, &match);
-    if (search == nullptr) {
+    bool found = false;
+    for (bool more = search != nullptr; more && !found; more = FindNextFileW(search, &match)) {
+        found = PathInFolder(folder, match.cFileName, path) && CanBePlayed(path);
+    }
+    if (search != nullptr) {
+        FindClose(search);
+    }
+    return found && ReadPuzzleFile(path) && CopyPath(path, CurrentPuzzlePath);
+}
+
+// False when there is none to be read.
+bool ReadFallbackPuzzle() {
+    if (!ReadFirstPuzzleIn(documentsFolder) && !ReadFirstPuzzleIn(puzzlesFolder)) {
         MessageBoxW(nullptr, u"Please choose a puzzle file from the Available Puzzles option.",
                     u"Choose File", MB_OK);
         return false;
     }
-    FindClose(search);
-    const bool isFile = (match.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-    if (!isFile || !PathInFolder(documentsFolder, match.cFileName, path) || !ReadPuzzleFile(path)) {
-        return false;
-    }
     // The restored letters, if any, are another puzzle's.
     ResetPlayerGrid = 1;
-    return CopyPath(path, CurrentPuzzlePath);
+    return true;
+}
+
+// The letters of a puzzle that is not there now, on a drive that is not plugged in, wait for it.
+bool ReadPuzzleOfState() {
+    const bool playable = CanBePlayed(CurrentPuzzlePath);
+    if (!playable && ResetPlayerGrid == 0) {
+        SaveLettersInSecondPlace();
+    }
+    return ReadPuzzleFile(CurrentPuzzlePath) && playable;
 }
 
 }  // namespace
@@ -117,8 +157,9 @@ int InitializeGame(HWND window) {
     SetDefaultPuzzle();
     FindProgramFolder();
     CreateDirectoryW(puzzlesFolder.data(), nullptr);
+    keptRecord.clear();
     ResetPlayerGrid = RestoreState() ? 0 : 1;
-    if (!ReadPuzzleFile(CurrentPuzzlePath) && !ReadFallbackPuzzle()) {
+    if (!ReadPuzzleOfState() && !ReadFallbackPuzzle()) {
         return 0;
     }
     ParseWithRestoredGrid();
@@ -129,7 +170,25 @@ int InitializeGame(HWND window) {
 
 void SaveState() {
     WCHAR path[MAX_PATH];
-    if (StateFilePath(path)) {
-        SaveProgress(path);
+    if (!StateFilePath(path) || !SaveProgress(path)) {
+        SaveLetters();
     }
+}
+
+bool KeepState() {
+    const bool missed = AwaitFiles() != 0;
+    const std::string record = RecordOfPlay();
+    if (!missed && record == keptRecord) {
+        return false;
+    }
+    WCHAR path[MAX_PATH];
+    const Writing how = missed ? Writing::AtOnce : Writing::BehindThePlayersBack;
+    const bool kept = StateFilePath(path) && WriteWholeFile(path, record, how);
+    keptRecord = kept ? record : "";
+    if (kept || SaveLetters()) {
+        playerKnows = false;
+    } else if (!std::exchange(playerKnows, true)) {
+        MessageBoxW(MainWindow, cannotBeSaved, u"Save", MB_OK | MB_ICONINFORMATION);
+    }
+    return kept && !missed;
 }

@@ -6,10 +6,12 @@
 #include <QtWidgets/QApplication>
 #include <optional>
 
+#include "platform/files.h"
 #include "platform/qt/host/host_window.h"
 #include "platform/windows.h"
 #include "storage/paths.h"
 #include "support/menus.h"
+#include "support/no_space.h"
 #include "support/plain_game.h"
 #include "support/played_board.h"
 
@@ -148,7 +150,9 @@ TEST_F(Session, WhatHappensDuringTheQuestionCostsNoLetters) {
     handheld->Type("XYZ");
     const std::string letters = PlayerLetters();
     DoDuringNextMessageBox([this] { Remove("second.puz"); });
-    Open("second.puz");
+    Choose("second.puz");
+    EXPECT_EQ(TakeShownMessages(), (Messages{Question(u"second.puz"),
+                                             {u"This file could not be opened.", u"Open File"}}));
     EXPECT_EQ(PlayerLetters(), letters);
     DoDuringNextMessageBox([] { Host().close(); });
     Choose("second.puz", 0);
@@ -157,45 +161,36 @@ TEST_F(Session, WhatHappensDuringTheQuestionCostsNoLetters) {
     EXPECT_NE(ReadBytes(home.stateFile()).find("XYZ.--"), std::string::npos);
 }
 
-// A folder with a puzzle's name and a file that is none are no puzzles, either.
-TEST_F(Session, WithoutAnyPuzzleEverythingIsTakenCalmly) {
+// A folder with a puzzle's name is none, nor are files that cannot be played.
+TEST_F(Session, WithoutAPuzzleEverythingIsTakenCalmlyAndOneIsShownWhereverItIs) {
     handheld.reset();
+    std::filesystem::remove(home.stateFile());
     Remove("second.puz");
     Remove("first.puz");
-    const ShownMessage choose{u"Please choose a puzzle file from the Available Puzzles option.",
-                              u"Choose File"};
-    for (const std::string kind : {"none", "folder", "stump"}) {
-        SCOPED_TRACE(kind);
-        std::filesystem::remove(home.stateFile());
-        if (kind == "folder") {
-            std::filesystem::create_directory(home.documents() / "a.puz");
-        } else if (kind == "stump") {
-            Remove("a.puz");
-            PutFile("a.puz", std::string(81, '\x0F'));
-        }
-        Start();
-        const auto said = kind == "none"    ? Messages{choose}
-                          : kind == "stump" ? Messages{{noPuzzle, u"Open File"}}
-                                            : Messages();
-        EXPECT_EQ(TakeShownMessages(), said);
-        const QImage bar = handheld->Client().copy(0, 248, 240, 20);
-        QImage white(bar.size(), bar.format());
-        white.fill(Qt::white);
-        EXPECT_EQ(bar, white) << "a clue where there is no puzzle";
-        handheld->Tap(3, 3);
-        for (int key : {int{'A'}, int{Qt::Key_Left}, int{Qt::Key_Right}, int{Qt::Key_Return},
-                        int{Qt::Key_Backspace}}) {
-            handheld->Press(key);
-        }
-        handheld->PressPanelButton();
-        handheld->RightClick(100, 100);
-        handheld->Close();
-        EXPECT_EQ(ReadBytes(home.stateFile()).size(), 4096u);
-    }
+    std::filesystem::create_directory(home.documents() / "a.puz");
+    PutFile("b.puz", std::string(81, '\x0F'));
+    PutFile("c.puz", PuzzleBytes(lopsidedBoard));
+    PutFile("d.puz", RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes());
     Start();
-    TakeShownMessages();
-    PutFile("second.puz", PuzzleBytes(otherBoard));
-    Open("second.puz");
+    EXPECT_EQ(TakeShownMessages(),
+              (Messages{{u"Please choose a puzzle file from the Available Puzzles option.",
+                         u"Choose File"}}));
+    const QImage bar = handheld->Client().copy(0, 248, 240, 20);
+    QImage white(bar.size(), bar.format());
+    white.fill(Qt::white);
+    EXPECT_EQ(bar, white) << "a clue where there is no puzzle";
+    handheld->Tap(3, 3);
+    for (int key : {int{'A'}, int{Qt::Key_Left}, int{Qt::Key_Right}, int{Qt::Key_Return},
+                    int{Qt::Key_Backspace}}) {
+        handheld->Press(key);
+    }
+    handheld->PressPanelButton();
+    handheld->RightClick(100, 100);
+    handheld->Close();
+    EXPECT_EQ(ReadBytes(home.stateFile()).size(), 4096u);
+    PutFile("Quadrel Puzzles/e.puz", PuzzleBytes(otherBoard));
+    Start();
+    EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\Quadrel Puzzles\\e.puz");
     EXPECT_TRUE(IsEmpty());
 }
 
@@ -220,6 +215,81 @@ TEST_F(Session, EveryWayOfEndingWritesTheState) {
         EXPECT_FALSE(handheld->Running()) << ending;
         EXPECT_TRUE(ReadBytes(home.stateFile()) == PlainRecord(firstPath, letters, {})) << ending;
     }
+}
+
+// What is missing or locked today may be there and unlocked tomorrow.
+TEST_F(Session, LettersWaitForTheirPuzzle) {
+    BoardRows scrambled = squareBoard;
+    scrambled[0] = "QQQ.QQ";
+    std::string locked = PuzzleBytes(scrambled);
+    locked[50] = 4;
+    for (std::string& row : scrambled) {
+        std::replace_if(
+            row.begin(), row.end(), [](char cell) { return cell != '.'; }, 'Q');
+    }
+    locked.replace(gridOffset, 36, Joined(scrambled));
+    handheld->Type("XYZ");
+    for (const std::string& bytes : {locked, PuzzleBytes(squareBoard)}) {
+        PutFile("first.puz", bytes);
+        Start();
+        EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+    }
+    handheld.reset();
+    Remove("first.puz");
+    Start();
+    EXPECT_EQ(PuzzleWidth, 4);
+    PutFile("first.puz", locked);
+    Open("first.puz");
+    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+}
+
+// A folder in the place of a file cannot be replaced, whoever asks.
+TEST_F(Session, LettersThatCannotBeWrittenInOnePlaceGoToTheOther) {
+    const auto besideIt = home.documents() / "first.dat";
+    const std::size_t files = home.Files().size();
+    std::filesystem::create_directory(besideIt);
+    handheld->Type("XYZ");
+    Open("second.puz");
+    EXPECT_EQ(home.Files().size(), files + 1);
+    Open("first.puz");
+    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+    std::filesystem::remove(besideIt);
+    Open("second.puz");
+    EXPECT_EQ(home.Files().size(), files + 2) << "the second place is left behind";
+    Open("first.puz");
+    std::filesystem::create_directory(home.stateFile());
+    handheld->Type("Q");
+    while (SendMessageW(MainWindow, WM_KEEPSTATE, 0, 0) != 0) {
+    }
+    EXPECT_NE(ReadBytes(besideIt).find("QYZ."), std::string::npos) << "in place of the state";
+}
+
+TEST_F(Session, TheStateIsKeptWhileItIsPlayedAndAFullDiskIsToldOnce) {
+    const auto keep = [] { return SendMessageW(MainWindow, WM_KEEPSTATE, 0, 0); };
+    handheld->Type("XYZ");
+    EXPECT_EQ(keep(), 1);
+    EXPECT_EQ(keep(), 0);
+    EXPECT_NE(ReadBytes(home.stateFile()).find("XYZ"), std::string::npos);
+    std::filesystem::remove(home.stateFile());
+    EXPECT_EQ(keep(), 0);
+    EXPECT_FALSE(std::filesystem::exists(home.stateFile())) << "nothing has changed";
+    {
+        const NoSpace full;
+        handheld->Type("Q");
+        for (int time = 0; time < 3; ++time) {
+            keep();
+        }
+        const auto told = TakeShownMessages();
+        ASSERT_EQ(told.size(), 1u);
+        EXPECT_EQ(told[0].title, u"Save");
+        AnswerNextMessageBox(IDYES);
+        Choose("second.puz", IDNO);
+        EXPECT_EQ(TakeShownMessages().size(), 2u);
+        EXPECT_EQ(PlayerLetters().substr(0, 4), "XYQ.");
+    }
+    keep();
+    EXPECT_EQ(AwaitFiles(), 0u);
+    EXPECT_NE(ReadBytes(home.stateFile()).find("XYQ."), std::string::npos);
 }
 
 TEST_F(Session, BoxesSayWhatTheyAreAbout) {

@@ -7,13 +7,6 @@ namespace {
 std::deque<QueuedMessage> queue;
 QueuedMessage current;
 
-bool IsInput(UINT message) {
-    constexpr UINT firstOfStylus = WM_MOUSEMOVE;
-    constexpr UINT lastOfStylus = WM_LBUTTONUP;
-    return IsKey(message) || message == WM_COMMAND ||
-           (message >= firstOfStylus && message <= lastOfStylus);
-}
-
 }  // namespace
 
 void PostMessage(const QueuedMessage& message) {
@@ -36,6 +29,13 @@ const QueuedMessage& CurrentMessage() {
 
 bool IsKey(UINT message) {
     return message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
+}
+
+bool IsInput(UINT message) {
+    constexpr UINT firstOfStylus = WM_MOUSEMOVE;
+    constexpr UINT lastOfStylus = WM_LBUTTONUP;
+    return IsKey(message) || message == WM_COMMAND ||
+           (message >= firstOfStylus && message <= lastOfStylus);
 }
 
 void DropMessagesOf(HWND window) {

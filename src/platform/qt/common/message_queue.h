@@ -19,6 +19,8 @@ const QueuedMessage& CurrentMessage();
 
 // A virtual key goes down, alone or with others held.
 bool IsKey(UINT message);
+// A key, the stylus or a command.
+bool IsInput(UINT message);
 
 void DropMessagesOf(HWND window);
 // Keys, stylus and commands only.

@@ -18,6 +18,7 @@
 #include "platform/qt/host/window_stack.h"
 #include "platform/qt/surface/drawing_objects.h"
 #include "platform/qt/window/end_request.h"
+#include "platform/qt/window/keep_state.h"
 #include "platform/qt/window/notices.h"
 #include "platform/windows.h"
 
@@ -163,6 +164,7 @@ void CloseDialog(Dialog& dialog, HWND owner) {
     dialogs.erase(std::find(dialogs.begin(), dialogs.end(), &dialog));
     DeleteObject(dialog.font);
     ReturnToTopWindow();
+    KeepStateSoon();
 }
 
 }  // namespace

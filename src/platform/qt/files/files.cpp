@@ -1,16 +1,20 @@
 // Files and folders.
 //
 // Supported: what files.h lists. Left out: sharing, attributes, seeking, appending, overlapped
-// operations, searching beyond the first match.
+// operations.
 #include "platform/files.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 #include <cerrno>
+#include <cstdint>
+#include <future>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "platform/qt/files/device_paths.h"
 #include "platform/qt/files/last_error.h"
@@ -18,10 +22,13 @@
 struct FileObject {
     std::unique_ptr<QFile> reader;
     std::unique_ptr<QSaveFile> writer;
+    bool takesItsPlaceLater = false;
     DWORD writeError = 0;  // a write went wrong, so the old file stays
 };
 
-struct FindObject {};
+struct FindObject {
+    QFileInfoList left;
+};
 
 namespace {
 
@@ -55,8 +62,9 @@ std::unique_ptr<FileObject> OpenReader(const QString& path) {
     return Open(*file->reader, QIODevice::ReadOnly) ? std::move(file) : nullptr;
 }
 
-std::unique_ptr<FileObject> OpenWriter(const QString& path) {
+std::unique_ptr<FileObject> OpenWriter(const QString& path, DWORD attributes) {
     auto file = std::make_unique<FileObject>();
+    file->takesItsPlaceLater = (attributes & FILE_FLAG_OVERLAPPED) != 0;
     file->writer = std::make_unique<QSaveFile>(path);
     return Open(*file->writer, QIODevice::WriteOnly) ? std::move(file) : nullptr;
 }
@@ -73,14 +81,32 @@ DWORD PutInPlace(QSaveFile& file) {
     return folderIsThere ? ErrorOfSystem(systemError, ERROR_GEN_FAILURE) : ERROR_PATH_NOT_FOUND;
 }
 
+// On its way to its place on a thread of its own. Never two: files wait for each other.
+std::future<DWORD> onItsWay;
+DWORD missedItsPlace = 0;
+
+void AwaitFileOnItsWay() {
+    if (onItsWay.valid()) {
+        const DWORD error = onItsWay.get();
+        missedItsPlace = error == 0 ? missedItsPlace : error;
+    }
+}
+
+void PutInPlaceLater(std::unique_ptr<QSaveFile> file) {
+    AwaitFileOnItsWay();
+    onItsWay =
+        std::async(std::launch::async, [file = std::move(file)] { return PutInPlace(*file); });
+}
+
 bool FitsPath(const QString& name) {
     return !name.contains('\\') && name.size() < MAX_PATH;
 }
 
 }  // namespace
 
-HANDLE CreateFileW(const WCHAR* path, DWORD access, DWORD, void*, DWORD disposition, DWORD,
-                   HANDLE) {
+HANDLE CreateFileW(const WCHAR* path, DWORD access, DWORD, void*, DWORD disposition,
+                   DWORD attributes, HANDLE) {
+    AwaitFileOnItsWay();
     const auto hostPath = ToHostPath(path);
     if (!hostPath) {
         const bool tooLong = std::u16string_view(path).size() >= MAX_PATH;
@@ -91,7 +117,7 @@ HANDLE CreateFileW(const WCHAR* path, DWORD access, DWORD, void*, DWORD disposit
         return OpenReader(*hostPath).release();
     }
     if (access == GENERIC_WRITE && disposition == CREATE_ALWAYS) {
-        return OpenWriter(*hostPath).release();
+        return OpenWriter(*hostPath, attributes).release();
     }
     SetLastError(ERROR_INVALID_PARAMETER);
     return INVALID_HANDLE_VALUE;
@@ -132,9 +158,28 @@ BOOL CloseHandle(HANDLE file) {
     const std::unique_ptr<FileObject> closing(file);
     DWORD error = closing->writeError;
     if (closing->writer && error == 0) {
+        if (closing->takesItsPlaceLater) {
+            PutInPlaceLater(std::move(closing->writer));
+            return TRUE;
+        }
         error = PutInPlace(*closing->writer);
     }
     return error == 0 ? TRUE : Fail(error);
+}
+
+DWORD AwaitFiles() {
+    AwaitFileOnItsWay();
+    return std::exchange(missedItsPlace, 0);
+}
+
+BOOL GetFileTime(HANDLE file, FILETIME*, FILETIME*, FILETIME* written) {
+    if (file == INVALID_HANDLE_VALUE || !file->reader) {
+        return Fail(ERROR_INVALID_HANDLE);
+    }
+    const QDateTime time = file->reader->fileTime(QFileDevice::FileModificationTime);
+    const auto milliseconds = static_cast<std::uint64_t>(time.toMSecsSinceEpoch());
+    *written = {static_cast<DWORD>(milliseconds), static_cast<DWORD>(milliseconds >> 32)};
+    return TRUE;
 }
 
 BOOL DeleteFileW(const WCHAR* path) {
@@ -142,6 +187,7 @@ BOOL DeleteFileW(const WCHAR* path) {
     if (!hostPath) {
         return Fail(ERROR_INVALID_NAME);
     }
+    AwaitFileOnItsWay();
     errno = ENOENT;
     return (QFileInfo(*hostPath).isFile() && QFile::remove(*hostPath)) ||
            Fail(ReasonNotOpened(*hostPath, errno));
@@ -160,24 +206,31 @@ BOOL CreateDirectoryW(const WCHAR* path, void*) {
 }
 
 HFIND FindFirstFileW(const WCHAR* pattern, WIN32_FIND_DATAW* data) {
-    SetLastError(ERROR_FILE_NOT_FOUND);
     const auto hostPattern = ToHostPath(pattern);
     if (!hostPattern) {
+        SetLastError(ERROR_FILE_NOT_FOUND);
         return nullptr;
     }
+    AwaitFileOnItsWay();
     const QFileInfo split(*hostPattern);
-    const auto entries =
+    auto search = std::make_unique<FindObject>();
+    search->left =
         QDir(split.path()).entryInfoList({split.fileName()}, QDir::Files | QDir::Dirs, QDir::Name);
-    for (const QFileInfo& entry : entries) {
+    return FindNextFileW(search.get(), data) ? search.release() : nullptr;
+}
+
+BOOL FindNextFileW(HFIND search, WIN32_FIND_DATAW* data) {
+    while (!search->left.isEmpty()) {
+        const QFileInfo entry = search->left.takeFirst();
         if (FitsPath(entry.fileName())) {
             const std::u16string name = entry.fileName().toStdU16String();
             data->dwFileAttributes =
                 entry.isDir() ? FILE_ATTRIBUTE_DIRECTORY : FILE_ATTRIBUTE_NORMAL;
             data->cFileName[name.copy(data->cFileName, name.size())] = 0;
-            return new FindObject;
+            return TRUE;
         }
     }
-    return nullptr;
+    return Fail(ERROR_FILE_NOT_FOUND);
 }
 
 BOOL FindClose(HFIND search) {

@@ -4,6 +4,7 @@
 #include "platform/qt/input/tap_guard.h"
 #include "platform/qt/look/font_warm_up.h"
 #include "platform/qt/process/endings.h"
+#include "platform/qt/process/pauses.h"
 #include "platform/resources.h"
 #include "platform/windows.h"
 
@@ -23,6 +24,7 @@ std::unique_ptr<QApplication> BringHandheldUp(int& argumentCount, char** argumen
 
 int RunProgram() {
     WatchForEndings();
+    WatchForPauses();
     PrepareFolders();
     WCHAR commandLine[] = u"";
     const int exitCode = WinMain(&programResources, nullptr, commandLine, SW_SHOW);

@@ -6,6 +6,7 @@
 
 #include "platform/qt/common/find_by_id.h"
 #include "platform/qt/common/message_queue.h"
+#include "platform/qt/window/keep_state.h"
 #include "platform/qt/window/notices.h"
 #include "platform/qt/window/window.h"
 #include "platform/resources.h"
@@ -18,6 +19,9 @@ BOOL GetMessageW(MSG* message, HWND, UINT, UINT) {
         }
     }
     *message = TakeMessage().message;
+    if (IsInput(message->message)) {
+        KeepStateSoon();
+    }
     return message->message != WM_QUIT;
 }
 
