@@ -1,6 +1,5 @@
-// The screen around the program's window: its furniture - title bar, menu bar and soft input
-// panel - beside a second, slow drawing of it, popups, boxes, windows and the guard against taps
-// that were meant for something else.
+// The screen around the program's window: its furniture - title bar, menu bar and soft input panel
+// - popups, boxes, windows and the guard against taps that were meant for something else.
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
@@ -9,15 +8,14 @@
 #include <QtGui/QWindow>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolTip>
-#include <cmath>
 
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/host/host_window.h"
 #include "platform/qt/input/hold_cue.h"
 #include "platform/qt/input/tap_guard.h"
-#include "platform/qt/look/svg.h"
 #include "platform/qt/screen/bar_button.h"
 #include "platform/qt/window/window.h"
+#include "support/looks.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 
@@ -27,117 +25,28 @@ struct PanelKey {
     QString plain;
     QString shifted;
     int code;
-    QRectF place;
+    QPoint middle;
 };
 
 // First the two Shift keys, then those that type nothing, then Space.
 std::vector<PanelKey> PanelKeys() {
-    std::vector<PanelKey> keys = {{"Shift", "Shift", Qt::Key_Shift, {0, 48, 30, 16}},
-                                  {"Shift", "Shift", Qt::Key_Shift, {210, 48, 30, 16}},
-                                  {"\u2190", "\u2190", Qt::Key_Backspace, {216, 0, 24, 16}},
-                                  {"\u21B5", "\u21B5", Qt::Key_Return, {216, 32, 24, 16}},
-                                  {"\u25C0", "\u25C0", Qt::Key_Left, {168, 64, 18, 16}},
-                                  {"\u25B2", "\u25B2", Qt::Key_Up, {186, 64, 18, 16}},
-                                  {"\u25BC", "\u25BC", Qt::Key_Down, {204, 64, 18, 16}},
-                                  {"\u25B6", "\u25B6", Qt::Key_Right, {222, 64, 18, 16}},
-                                  {" ", " ", Qt::Key_Space, {48, 64, 120, 16}}};
+    std::vector<PanelKey> keys = {
+        {"", "", Qt::Key_Shift, {15, 56}},     {"", "", Qt::Key_Shift, {225, 56}},
+        {"", "", Qt::Key_Backspace, {228, 8}}, {"", "", Qt::Key_Return, {228, 40}},
+        {"", "", Qt::Key_Left, {177, 72}},     {"", "", Qt::Key_Up, {195, 72}},
+        {"", "", Qt::Key_Down, {213, 72}},     {"", "", Qt::Key_Right, {231, 72}},
+        {" ", " ", Qt::Key_Space, {108, 72}}};
     const char* const rows[] = {"1!2@3#4$5%6^7&8*9(0)-_=+", "qQwWeErRtTyYuUiIoOpP[{]}",
                                 "aAsSdDfFgGhHjJkKlL;:'\"", "zZxXcCvVbBnNmM,<.>/?", "`~\\|"};
     for (int row = 0; row < 5; ++row) {
-        QRectF place(std::array{0, 12, 18, 30, 12}[std::size_t(row)], row * 16, 18, 16);
+        QPoint middle(std::array{9, 21, 27, 39, 21}[std::size_t(row)], row * 16 + 8);
         for (const char* each = rows[row]; *each != 0; each += 2) {
-            keys.push_back({QChar(each[0]), QChar(each[1]), std::toupper(each[0]), place});
-            place.translate(18, 0);
+            keys.push_back({QChar(each[0]), QChar(each[1]), std::toupper(each[0]), middle});
+            middle.rx() += 18;
         }
     }
     return keys;
 }
-
-// What differs from one moment to another: the button and the key by their places.
-struct Moment {
-    int focusedButton = -1;
-    bool panelUp = false;
-    bool shift = false;
-    int pressedKey = -1;
-};
-
-class PlainScreen {
-public:
-    QImage Paint(const Moment& moment, const QImage& client) {
-        image.fill(0x1B2229);
-        painter.translate(std::floor((image.width() - 240 * scale) / 2),
-                          std::floor((image.height() - 320 * scale) / 2));
-        painter.drawImage(0, At(26), client);
-        painter.fillRect(Area(0, 0, 240, 26), QColor(blue));
-        Write(Area(0, 0, 240, 26).translated(int(8 * scale), 0), Qt::AlignVCenter, "Quadrel", 13,
-              true, 0xFFFFFF);
-        PaintBar(moment);
-        painter.translate(0, At(214));
-        PaintPanel(moment);
-        painter.end();
-        return image;
-    }
-
-private:
-    int At(double logical) const {
-        return qRound(logical * scale);
-    }
-    QRect Area(int left, int top, int right, int bottom) const {
-        return QRect(QPoint(At(left), At(top)), QPoint(At(right) - 1, At(bottom) - 1));
-    }
-    void Write(const QRect& box, int place, const QString& text, int em, bool bold, QRgb color) {
-        QFont font({"Liberation Sans", "DejaVu Sans"}, -1, bold ? QFont::Bold : QFont::Normal);
-        font.setPixelSize(At(em));
-        painter.setFont(font);
-        painter.setPen(QColor(color));
-        painter.drawText(box, place, text);
-    }
-    void PaintBar(const Moment& moment) {
-        painter.fillRect(Area(0, 294, 240, 320), QColor(0xE9ECEF));
-        painter.fillRect(0, At(294), At(240), std::max(1, int(scale)), QColor(0xA9B2BA));
-        int left = 0;
-        for (const QString picture : {"main", "check", "hint", "open", "clues", "size", "direction",
-                                      "keyboard", "about", "sip"}) {
-            QRect button = Area(left, 294, left + 24, 320);
-            if (picture == "sip") {
-                button.setLeft(At(240) - At(24));
-                painter.fillRect(moment.panelUp ? button : QRect(), QColor(lit));
-            }
-            if (left == moment.focusedButton * 24) {
-                const int width = std::max(1, At(1));
-                painter.setPen(
-                    QPen(QColor(blue), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-                painter.drawRect(QRectF(button).adjusted(width, width, -width, -width));
-            }
-            const QSize free = button.size() - QSize(At(16), At(16));
-            painter.drawImage(button.topLeft() + QPoint(free.width() / 2, free.height() / 2),
-                              RenderSvg(":/art/menu_" + picture + ".svg", {At(16), At(16)}));
-            left += 24;
-        }
-    }
-    void PaintPanel(const Moment& moment) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillRect(moment.panelUp ? Area(0, 0, 240, 80) : QRect(), QColor(0xC6CDD4));
-        int index = 0;
-        for (const PanelKey& key : moment.panelUp ? PanelKeys() : std::vector<PanelKey>()) {
-            const QRectF space = key.place.adjusted(0.75, 0.75, -0.75, -0.75);
-            const QRect cap = QRectF(space.topLeft() * scale, space.size() * scale).toRect();
-            const bool isLit = index == moment.pressedKey || (moment.shift && index < 2);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(QColor(isLit ? lit : index < 9 ? 0xE3E8EC : 0xFFFFFF));
-            painter.drawRoundedRect(cap, 2 * scale, 2 * scale);
-            Write(cap, Qt::AlignCenter, moment.shift ? key.shifted : key.plain, index < 2 ? 8 : 10,
-                  false, 0x22303C);
-            ++index;
-        }
-    }
-
-    static constexpr QRgb blue = 0x2F6DB5;
-    static constexpr QRgb lit = 0xC3D6EC;
-    QImage image{Host().size(), QImage::Format_RGB32};
-    const double scale = std::min(image.width() / 240.0, image.height() / 320.0);
-    QPainter painter{&image};
-};
 
 // Takes what is typed from the program, and looks at the screen meanwhile.
 struct TypedKeys : QObject {
@@ -164,9 +73,13 @@ protected:
     ~Screen() override {
         handheld->Resize(1);
     }
-    void ExpectLook(const Moment& moment) {
-        const QImage screen = handheld->Screen().convertToFormat(QImage::Format_RGB32);
-        EXPECT_EQ(screen, PlainScreen().Paint(moment, handheld->Client()));
+    // The soft input panel's key, whose caption leaves its left edge free.
+    bool IsLit(const PanelKey& key) {
+        const int left = key.code == Qt::Key_Shift ? 12 : 6;
+        const QPointF place = ExactPlace(OnScreen(MainWindow, {0, 188, 1, 189})).topLeft() +
+                              QPointF(key.middle - QPoint(left, 0)) * ScreenMagnification();
+        const COLORREF color = ColorAt(handheld->Screen(), qRound(place.x()), qRound(place.y()));
+        return color == RGB(0xC3, 0xD6, 0xEC);
     }
     void Press(std::initializer_list<int> keys) {
         for (int key : keys) {
@@ -176,35 +89,36 @@ protected:
 };
 
 // Every key is tapped at one of the sizes, without Shift and with it.
-TEST_F(Screen, LooksPlainAndThePanelTypesWhatItsKeysShow) {
+TEST_F(Screen, LooksAsRecordedAndThePanelTypesWhatItsKeysShow) {
     const std::vector<PanelKey> keys = PanelKeys();
     int first = 0;
     for (const QSize& window : {QSize(240, 320), QSize(329, 440), QSize(480, 700)}) {
+        const std::string size = std::to_string(window.width());
         Host().resize(window);
         handheld->Settle();
-        Moment moment;
-        ExpectLook(moment);
         handheld->PressPanelButton();
-        moment.panelUp = true;
+        ExpectLooksAsRecorded(handheld->Screen(), "Panel at " + size);
         TypedKeys typed;
-        typed.look = [&] { ExpectLook(moment); };
         MainWindow->widget->installEventFilter(&typed);
+        bool shift = false;
         const auto tap = [&](int index) {
             const PanelKey& key = keys[std::size_t(index)];
-            const QString text = index < 8 ? "" : moment.shift ? key.shifted : key.plain;
-            const std::tuple sent(key.code, text.toStdString(), moment.shift ? 0x02000000 : 0);
-            moment.pressedKey = index;
-            handheld->TapPanel(key.place.center().x(), key.place.center().y());
+            const QString text = shift ? key.shifted : key.plain;
+            const std::tuple sent(key.code, text.toStdString(), shift ? 0x02000000 : 0);
+            typed.look = [&] { EXPECT_TRUE(IsLit(key)); };
+            handheld->TapPanel(key.middle.x(), key.middle.y());
             EXPECT_EQ(std::exchange(typed.keys, {}), decltype(typed.keys)(index < 2 ? 0 : 1, sent));
-            moment.pressedKey = -1;
-            moment.shift = index < 2 && !moment.shift;
-            ExpectLook(moment);
+            shift = index < 2 && !shift;
+            EXPECT_EQ(IsLit(key), shift);
         };
         for (int index = first++; index < int(keys.size()); index += 3) {
             tap(index);
             tap(index % 2);  // Shift
             tap(index);
         }
+        tap(0);
+        ExpectLooksAsRecorded(handheld->Screen(), "Shifted panel at " + size);
+        tap(0);
         MainWindow->widget->removeEventFilter(&typed);
         handheld->PressPanelButton();
     }
@@ -231,16 +145,16 @@ TEST_F(Screen, KeysGoAroundTheButtonsThatCanBePressedAndOthersAreTheGames) {
          {std::tuple(Qt::Key_F10, 1, Qt::Key_F10), {Qt::Key_Alt, 9, Qt::Key_Escape}}) {
         Press({opening});
         for (int index = 0; index <= step * 10; index += step) {
-            ExpectLook({.focusedButton = index % 10});
+            EXPECT_EQ(Host().focusWidget()->x(), std::min(index % 10 * 24, 216));
             Press({step == 1 ? Qt::Key_Right : Qt::Key_Left});
         }
+        ExpectLooksAsRecorded(handheld->Screen(), "Focus after " + std::to_string(step));
         Press({closing});
-        ExpectLook({});
+        EXPECT_EQ(Host().focusWidget(), MainWindow->widget);
     }
     Press({Qt::Key_F10, Qt::Key_K, Qt::Key_F10, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left,
            Qt::Key_Left, Qt::Key_Return});
     EXPECT_EQ(std::pair(PlayerLetters()[0], Direction), std::pair('K', 1));
-    ExpectLook({});
     PressFocusedKey(*handheld, Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(handheld->Running());
 }

@@ -91,6 +91,11 @@ inline void PlaceBoard(const BoardRows& rows) {
     CursorRow = CursorCol = Direction = 0;
 }
 
+// The clue of a word by its index; some are longer than any bar.
+inline std::string ClueOf(std::size_t word) {
+    return "Clue " + std::to_string(word) + std::string(word % 7 == 5 ? 99 : 0, 'W');
+}
+
 struct PlainWord {
     int row = 0;
     int col = 0;

@@ -1,12 +1,15 @@
-// How screens look, as pictures that are too coarse to tell one font renderer from another.
+// Pictures that a person has looked at, in support/looks, to compare the program's with. They are
+// recorded when QUADREL_RECORD_LOOKS is set.
 #pragma once
 
 #include <QtGui/QImage>
 #include <string>
 
-// What differs where the two differ most, of 255, in patches of four logical pixels.
+// In patches of four by four logical pixels of a screen, which look alike at every magnification.
 int LargestDifference(const QImage& screen, const QImage& other);
-
-// The screen looks as it did when its picture was put beside this file, by a run with
-// QUADREL_RECORD_LOOKS in its environment.
+// In patches of two by two: text may look a little different, as it does with another version of a
+// font or of its rasteriser.
 void ExpectLooksAsRecorded(const QImage& screen, const std::string& name);
+
+// Pixel by pixel, for what is drawn without text.
+void ExpectDrawnAsRecorded(const QImage& picture, const std::string& name);

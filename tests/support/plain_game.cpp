@@ -558,7 +558,7 @@ void PlainGame::PaintBar() {
         const PlainWord& word = words[i];
         if (word.direction == direction && word.Contains(selected.row, selected.col)) {
             clue = Widen(std::to_string(numbers.at({word.row, word.col})) +
-                         (direction == 0 ? " a: " : " d: ") + "Clue " + std::to_string(i) + " (" +
+                         (direction == 0 ? " a: " : " d: ") + ClueOf(i) + " (" +
                          std::to_string(word.length) + ")");
         }
     }

@@ -42,11 +42,11 @@ inline constexpr MagnificationFlags smallSize{1, 0, 0};
 inline constexpr MagnificationFlags mediumSize{0, 1, 0};
 inline constexpr MagnificationFlags largeSize{0, 0, 1};
 
-// Every word has the clue "Clue " and its index; files of boards with other sides are made too.
+// Every word has its ClueOf; files of boards with other sides are made too.
 inline std::string PuzzleBytes(const BoardRows& rows, const std::string& title = "Title") {
     std::vector<std::string> texts = {title, "Author", "Copyright"};
     for (std::size_t i = 0; i < WordsOf(rows).size(); ++i) {
-        texts.push_back("Clue " + std::to_string(i));
+        texts.push_back(ClueOf(i));
     }
     texts.push_back("");
     return PuzzleOfBoard(rows, texts).Bytes();
