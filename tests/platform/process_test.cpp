@@ -25,31 +25,32 @@ QTextBrowser* OpenHelp(const QString& chapter = "") {
 TEST_F(StartedHelp, BringsEveryChapterToTheTopOfOneWindowAndLinksThemAll) {
     QTextBrowser* page = OpenHelp();
     std::map<QString, int> chapters;  // where their headings begin
-    QStringList links;
+    QStringList links{"#contents"};
     for (QTextBlock block = page->document()->begin(); block.isValid(); block = block.next()) {
         for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
             const QTextCharFormat format = piece.fragment().charFormat();
             for (const QString& name : format.anchorNames()) {
                 chapters['#' + name] = piece.fragment().position();
             }
-            links << format.anchorHref();
+            if (format.anchorHref().startsWith('#')) {
+                links << format.anchorHref();
+            }
         }
     }
     EXPECT_GT(chapters.size(), 10u);
     for (const QString& link : links) {
-        EXPECT_TRUE(link.isEmpty() || link.startsWith("https://") || chapters.contains(link))
-            << link.toStdString();
+        EXPECT_TRUE(chapters.contains(link)) << link.toStdString();
     }
     // The last chapters are shorter than the window, and it may be resized.
     for (const QSize size : {QSize(500, 700), QSize(260, 400), QSize(1500, 1600)}) {
         page->window()->resize(size);
         for (const auto& [name, position] : chapters) {
-            EXPECT_TRUE(links.contains(name) || name == "#contents") << name.toStdString();
+            EXPECT_TRUE(links.contains(name)) << name.toStdString();
             EXPECT_EQ(OpenHelp(name), page) << "another window";
             QTextCursor heading(page->document());
             heading.setPosition(position);
             const int top = page->cursorRect(heading).top();
-            EXPECT_EQ(std::clamp(top, 0, 20), top) << name.toStdString() << " at " << size.width();
+            EXPECT_TRUE(top >= 0 && top <= 20) << name.toStdString() << " at " << size.width();
         }
     }
     EXPECT_EQ(ShownHelpWindows().size(), 1u);

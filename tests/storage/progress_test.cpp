@@ -58,14 +58,6 @@ protected:
     const TemporaryHome home;
 };
 
-// Nothing of the puzzle that was left shows in a larger one.
-TEST_F(Progress, RestoresEveryFieldAndEmptiesTheRest) {
-    ASSERT_TRUE(Load(SmallRecord()));
-    EXPECT_EQ(CurrentPuzzlePath, std::u16string(u"p"));
-    EXPECT_EQ(std::string(PlayerGrid + 21, maxCells - 21), std::string(maxCells - 21, '-'));
-    EXPECT_TRUE(Saved() == SmallRecord());
-}
-
 TEST_F(Progress, TakesFromARecordOnlyWhatMakesSense) {
     std::string record = SmallRecord();
     // A revealed cell may be anything that a solution holds, but no control byte.
@@ -95,8 +87,9 @@ TEST_F(Progress, ForeignRecordsChangeNothing) {
     }
 }
 
+// Nothing of the puzzle that was left shows in a larger one.
 TEST_F(Progress, ARecordCutAnywhereGivesWhatItHolds) {
-    for (std::size_t length = 0; length < gridEnd + 40; ++length) {
+    for (std::size_t length = 0; length <= SmallRecord().size(); length += 1 + length / 99 * 90) {
         SCOPED_TRACE(length);
         Forget();
         const std::string cut = SmallRecord().substr(0, length);
@@ -105,21 +98,21 @@ TEST_F(Progress, ARecordCutAnywhereGivesWhatItHolds) {
             continue;
         }
         ASSERT_TRUE(Load(cut));
+        EXPECT_EQ(std::string(PlayerGrid + 21, maxCells - 21), std::string(maxCells - 21, '-'));
         EXPECT_EQ(Magnification.Medium, length > gridEnd + 2 ? 1 : 0);
         EXPECT_EQ(BackgroundColor, length > gridEnd + 18 ? RGB(1, 22, 133) : usual.letterCells);
     }
+    EXPECT_TRUE(Load(SmallRecord()) && Saved() == SmallRecord());
 }
 
 TEST_F(Progress, TheLongestPathAndTheLargestBoardSurvive) {
     const std::u16string longest = u"\\" + std::u16string(MAX_PATH - 2, u'\u6F22');
-    ASSERT_TRUE(CopyPath(longest, CurrentPuzzlePath));
+    CopyPath(longest, CurrentPuzzlePath);
     PuzzleHeight = PuzzleWidth = 40;
     const std::string record = Saved();
-    ASSERT_EQ(record.size(), 4096U);
     Forget();
-    ASSERT_TRUE(Load(record));
+    EXPECT_TRUE(Load(record) && Saved() == record && record.size() == 4096);
     EXPECT_EQ(CurrentPuzzlePath, longest);
-    EXPECT_TRUE(Saved() == record);
 }
 
 // What a file that is not square leaves in the sizes must not cost the settings.
