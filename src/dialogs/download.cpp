@@ -79,7 +79,10 @@ void TakeSelectedLink(HWND dialog) {
     PutIntoEditBox(dialog, LinkAt(dialog, line).c_str());
 }
 
+// The focus leaves the edit box also when Enter was pressed there, and the soft input panel goes
+// down.
 void GetPuzzle(HWND dialog) {
+    SetFocus(GetDlgItem(dialog, controlGet));
     WCHAR link[longestLink + 1];
     GetWindowTextW(GetDlgItem(dialog, controlLink), link, longestLink + 1);
     if (DownloadPuzzle(dialog, link) == 0) {

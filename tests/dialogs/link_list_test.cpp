@@ -52,7 +52,7 @@ TEST_F(LinkList, ReadsWhateverIsInTheFileAndWritesLinksInTheirOrder) {
         EXPECT_EQ(links, expected) << testing::PrintToString(bytes);
     }
     WriteLinks({u"b", longest, u"\u00E4\U0001F9E9", std::u16string(257, u'a') + u"\u8C1C"});
-    EXPECT_EQ(ReadBytes(file), "b\0"s + std::string(259, 'a') + "\0\xC3\xA4" + puzzle + '\0' +
+    EXPECT_EQ(ReadBytes(file), "b\0"s + std::string(259, 'a') + "\0\xC3\xA4"s + puzzle + '\0' +
                                    std::string(257, 'a') + '\0');
 }
 

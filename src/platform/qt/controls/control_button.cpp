@@ -22,7 +22,17 @@ public:
         setAutoDefault(true);
     }
 
+    void BeDefault(bool always) {
+        isDefaultAlways = always;
+        setDefault(always);
+    }
+
 protected:
+    // The toolkit makes the button with the focus the default one, and none when it leaves.
+    void focusOutEvent(QFocusEvent* event) override {
+        QPushButton::focusOutEvent(event);
+        setDefault(isDefaultAlways);
+    }
     void paintEvent(QPaintEvent* event) override {
         HGDIOBJ brush = control->BrushFor(WM_CTLCOLORBTN);
         if (brush == nullptr || !text().isEmpty()) {
@@ -39,6 +49,7 @@ protected:
 
 private:
     Control* control;
+    bool isDefaultAlways = false;
 };
 
 struct Button : Control {
@@ -90,8 +101,8 @@ struct Button : Control {
 struct PushButton : Button {
     PushButton(HWND owner, const ControlResource& described, QWidget* parent)
         : Button(owner, described, new ButtonWidget(parent, this)) {
-        auto* button = static_cast<QPushButton*>(Widget());
-        button->setDefault(described.kind == ControlKind::DefaultButton);
+        auto* button = static_cast<ButtonWidget*>(Widget());
+        button->BeDefault(described.kind == ControlKind::DefaultButton);
     }
 };
 
