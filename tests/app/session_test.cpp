@@ -12,7 +12,7 @@
 #include "storage/paths.h"
 #include "support/menus.h"
 #include "support/no_space.h"
-#include "support/plain_game.h"
+#include "support/plain_record.h"
 #include "support/played_board.h"
 
 namespace {

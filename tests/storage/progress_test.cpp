@@ -4,7 +4,8 @@
 
 #include "play/settings.h"
 #include "storage/paths.h"
-#include "support/plain_game.h"
+#include "support/plain_record.h"
+#include "support/temporary_home.h"
 
 namespace {
 

@@ -207,9 +207,6 @@ void DragOver(QWidget* widget, QPointF from, QPointF to) {
     SendMouse(widget, QEvent::MouseButtonRelease, to, Qt::LeftButton);
 }
 
-QImage ImageOf(HDC context) {
-    return context->surface->Image().copy();
-}
 
 // For messages of failed comparisons.
 void PrintTo(const QImage& image, std::ostream* out) {

@@ -63,7 +63,5 @@ public:
 // The stylus touches one place of the widget and is lifted at another.
 void DragOver(QWidget* widget, QPointF from, QPointF to);
 
-// A context's surface, in device pixels.
-QImage ImageOf(HDC context);
 void PrintTo(const QImage& image, std::ostream* out);
 COLORREF ColorAt(const QImage& image, int x, int y);

@@ -1,14 +1,21 @@
 // The game a second time, slow and obvious: the same stylus and keys, the rules gone through cell
-// by cell, everything painted by itself. Only the handheld's drawing is shared with the program.
+// by cell, everything painted by itself. Only the surface under all drawing is shared with the
+// program.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <map>
 #include <memory>
 #include <string>
 
+#include "app/view.h"
 #include "platform/drawing.h"
-#include "support/boards.h"
+#include "platform/qt/surface/drawing_objects.h"
+#include "platform/qt/surface/surface.h"
+#include "play/settings.h"
 #include "support/handheld.h"
+#include "support/plain_record.h"
 
 // Every key of the on-screen keyboard, by its letter: where it is drawn and what counts as it.
 // Right and bottom are inclusive.
@@ -18,21 +25,26 @@ struct PlainKey {
 };
 constexpr int eraseKey = '<';
 constexpr int okKey = '!';
-std::map<int, PlainKey> AllKeys();
-
-// Written into every record.
-struct PlainSettings {
-    int size = 0;  // 0 small, 1 medium, 2 large
-    bool autoSkip = false;
-    bool numbers = false;
-    COLORREF letterCells = RGB(255, 255, 255);
-    COLORREF squares = RGB(0, 0, 0);
-    bool operator==(const PlainSettings&) const = default;
-};
-
-// A record as somebody would write it with a pencil: every field at its place, zeros elsewhere.
-std::string PlainRecord(const std::string& path, const BoardRows& letters,
-                        const PlainSettings& settings);
+// The first key of each row takes what lies to its left, as far as the row begins; the rows of taps
+// are a pixel lower than the keys.
+inline std::map<int, PlainKey> AllKeys() {
+    std::map<int, PlainKey> keys;
+    const auto addRow = [&keys](const std::string& letters, int left, int firstTap, RECT rows) {
+        int x = left;
+        for (char letter : letters) {
+            const int tapsFrom = x == left ? firstTap : x;
+            keys[letter] = {{x, rows.left, x + 18, rows.top},
+                            {tapsFrom, rows.right, x + 19, rows.bottom}};
+            x += 20;
+        }
+    };
+    addRow("QWERTYUIOP", 10, 0, {228, 239, 225, 239});
+    addRow("ASDFGHJKL", 20, 1, {241, 252, 240, 251});
+    addRow("ZXCVBNM", 30, 11, {254, 265, 252, 263});
+    keys[eraseKey] = {{170, 254, 188, 265}, {170, 252, 209, 263}};
+    keys[okKey] = {{210, 254, 234, 265}, {210, 252, 239, 263}};
+    return keys;
+}
 
 struct PlainCell {
     int row = 0;
@@ -43,27 +55,209 @@ struct PlainCell {
 class PlainGame {
 public:
     // The program has just started with that puzzle, whose clues are those of PuzzleBytes.
-    explicit PlainGame(const BoardRows& puzzle);
+    explicit PlainGame(const BoardRows& puzzle) : screen(std::make_shared<Canvas>(240, 268)) {
+        Open(puzzle, EmptyBoard(puzzle));
+        StartAgain();
+    }
 
-    void StartAgain();
-    void Open(const BoardRows& puzzle, const BoardRows& restored);
-    void Tap(POINT point);
-    void Drag(POINT from, POINT to);
+    void StartAgain() {
+        selected = {};
+        direction = 0;
+        keyboardUp = panelUp = false;
+        LayOut();
+        Repaint(false);
+    }
+
+    void Open(const BoardRows& puzzle, const BoardRows& restored) {
+        solution = puzzle;
+        letters = restored;
+        words = WordsOf(puzzle);
+        numbers.clear();
+        for (const PlainWord& word : words) {
+            numbers.try_emplace({word.row, word.col}, static_cast<int>(numbers.size()) + 1);
+        }
+        selected = {};
+        LayOut();
+        Repaint(true);
+    }
+
+    int Side() const {
+        return static_cast<int>(solution.size());
+    }
+
+    int ViewHeight() const {
+        return (panelUp ? 188 : 268) - (keyboardUp ? 65 : 20);
+    }
+
+    POINT MiddleOf(PlainCell cell) const {
+        const RECT box = Box(cell);
+        return {(box.left + box.right) / 2 - scroll.x, (box.top + box.bottom) / 2 - scroll.y};
+    }
+
+    // What the stylus does.
+
+    void Tap(POINT point) {
+        if (point.x < 0 || point.x >= 240 || point.y < 0) {
+            return;
+        }
+        if (point.y < ViewHeight()) {
+            if (TapBoard(point, false)) {
+                ShowView();
+            }
+        } else if (keyboardUp && point.y >= 225) {
+            TapKey(point);
+        }
+    }
+
     // A tap-and-hold; the menu that opens then is not part of it.
-    void HoldAt(POINT point);
-    void Press(int key);
-    // An item of a menu, like "Fill/Word".
-    void Choose(const std::string& item);
-    // True when something is said.
-    bool Check();
-    void TurnDirection();
-    void ToggleKeyboard();
-    void TogglePanel();
+    void HoldAt(POINT point) {
+        if (point.y < ViewHeight()) {
+            TapBoard(point, true);
+        }
+        ShowView();
+    }
 
-    void ExpectSame(Handheld& handheld) const;
-    POINT MiddleOf(PlainCell cell) const;
-    int Side() const;
-    int ViewHeight() const;
+    // One pen, one board; a move that would pass a limit does not happen.
+    void Drag(POINT from, POINT to) {
+        const int side = Side() * CellSide();
+        const int mostX = side > 240 ? side + 1 - 240 : 0;
+        const int mostY = side + 1 - ViewHeight();
+        const bool scrolls = settings.size != 0 && (side > 240 || side > ViewHeight());
+        POINT last = from;
+        bool moved = false;
+        const auto along = [](auto& position, int way, int most) {
+            const int wanted = position + way;
+            if ((way > 0 && wanted <= most) || (way < 0 && wanted >= 0)) {
+                position = wanted;
+            }
+        };
+        for (int step = 1; step <= 10; ++step) {
+            const POINT pen{from.x + (to.x - from.x) * step / 10,
+                            from.y + (to.y - from.y) * step / 10};
+            // A hand trembles.
+            moved = moved || std::abs(pen.x - from.x) > 4 || std::abs(pen.y - from.y) > 4;
+            const bool inView = pen.x >= 0 && pen.x < 240 && pen.y >= 0 && pen.y < ViewHeight();
+            if (scrolls && moved && inView) {
+                along(scroll.x, last.x - pen.x, mostX);
+                along(scroll.y, last.y - pen.y, mostY);
+                last = pen;
+                ShowView();
+            }
+        }
+        Tap(to);
+    }
+
+    // What keys do.
+
+    void Press(int key) {
+        if (key >= 'A' && key <= 'Z') {
+            Enter(key);
+        } else if (key == Qt::Key_Backspace) {
+            Erase();
+        } else {
+            direction = key == Qt::Key_Return ? 1 - direction : direction;
+            if (key == Qt::Key_Left || key == Qt::Key_Up) {
+                Jump(false);
+            } else if (key == Qt::Key_Right || key == Qt::Key_Down) {
+                Jump(true);
+            }
+            PaintBoard();
+            PaintWord();
+            ScrollToWord();
+            PaintBar();
+        }
+        ShowView();
+    }
+
+    // An item of a menu, like "Fill/Word".
+    // What commands do.
+
+    void Choose(const std::string& item) {
+        const std::string menu = item.substr(0, item.find('/'));
+        const std::string last = item.substr(item.find_last_of("/ ") + 1);
+        if (item == "Toggle/Auto Skip") {
+            settings.autoSkip = !settings.autoSkip;
+        } else if (item == "Small" || item == "Medium" || item == "Large") {
+            settings.size = item == "Small" ? 0 : item == "Medium" ? 1 : 2;
+            selected = {};
+            LayOut();
+            Repaint(false);
+        } else if (menu == "View" || menu == item) {
+            PaintHint(last);
+        } else {
+            settings.numbers = settings.numbers != (last == "Numbers");
+            for (PlainCell cell : CellsOf(last)) {
+                if (menu == "Fill" || (menu == "Clear" && Solution(cell) != '.')) {
+                    Letter(cell) = menu == "Fill" ? Solution(cell) : '-';
+                }
+            }
+            Repaint(true);
+        }
+    }
+
+    // True when something is said.
+    // Neither bevels nor a highlight; wrong letters are red.
+    bool Check() {
+        bool anyLetter = false;
+        bool anyWrong = false;
+        for (PlainCell cell : CellsOf("Puzzle")) {
+            const char letter = Letter(cell);
+            const bool wrong = letter != Solution(cell);
+            board->Fill(Box(cell), letter == '.' ? settings.squares : settings.letterCells);
+            WriteLetter(cell, letter, wrong ? red : black);
+            WriteNumber(cell, CellSide() / 2);
+            anyLetter = anyLetter || (letter != '.' && letter != '-');
+            anyWrong = anyWrong || (wrong && letter != '-');
+        }
+        ShowView();
+        return !anyWrong || !anyLetter;
+    }
+
+    void TurnDirection() {
+        direction = 1 - direction;
+        Repaint(true);
+    }
+
+    void ToggleKeyboard() {
+        const int before = ViewHeight();
+        if (keyboardUp) {
+            keyboardUp = false;
+            LayOutBelow(before);
+            return;
+        }
+        if (panelUp) {
+            TogglePanel();
+        }
+        keyboardUp = true;
+        if (settings.size == 0) {
+            LayOutBelow(before);
+        } else {
+            ScrollToWord();
+        }
+        ShowAll();
+    }
+
+    void TogglePanel() {
+        const int before = ViewHeight();
+        panelUp = !panelUp;
+        keyboardUp = false;
+        LayOutBelow(before);
+    }
+
+    void ExpectSame(Handheld& handheld) const {
+        ASSERT_TRUE(handheld.Running());
+        ASSERT_EQ(std::string(PlayerGrid, static_cast<std::size_t>(PuzzleWidth * PuzzleHeight)),
+                  Joined(letters));
+        ASSERT_EQ(std::tuple(CursorRow, CursorCol, Direction),
+                  std::tuple(selected.row, selected.col, direction));
+        ASSERT_EQ(std::tuple(ScrollX, ScrollY, KeyboardVisible),
+                  std::tuple(int{scroll.x}, int{scroll.y}, int{keyboardUp}));
+        const int size = Magnification.Large == 1 ? 2 : Magnification.Medium;
+        ASSERT_TRUE(settings == (PlainSettings{size, AutoSkip == 1, ShowNumbers == 1,
+                                               BackgroundColor, SquareColor}));
+        const QImage shown = handheld.Client();
+        ASSERT_EQ(shown, screen->Image().copy(shown.rect()));
+    }
 
     BoardRows letters;
     PlainSettings settings;
@@ -72,34 +266,323 @@ public:
     bool panelUp = false;
 
 private:
-    int CellSide() const;
-    int BoardLeft() const;
-    RECT Box(PlainCell cell) const;
-    char& Letter(PlainCell cell);
-    char Solution(PlainCell cell) const;
-    PlainWord SelectedWord() const;
-    std::vector<PlainCell> CellsOf(const std::string& scope) const;
+    static constexpr COLORREF black = RGB(0, 0, 0);
+    static constexpr COLORREF white = RGB(255, 255, 255);
+    static constexpr COLORREF red = RGB(255, 0, 0);
+    static constexpr COLORREF grey = RGB(192, 192, 192);
+    static constexpr COLORREF yellow = RGB(255, 255, 2);
+    static constexpr COLORREF orange = RGB(255, 200, 125);
 
-    bool TapBoard(POINT point, bool held);
-    void TapKey(POINT point);
-    void Enter(int key);
-    void Erase();
-    void Jump(bool forward);
-    void ScrollToWord();
-    void LayOut();
-    void LayOutBelow(int viewHeightBefore);
+    static constexpr double cellPerEm = 1.117;  // of a letter's height
 
-    void WriteLetter(PlainCell cell, char letter, COLORREF color);
-    void WriteNumber(PlainCell cell, int reach);
-    void PaintBoard(bool solved = false);
-    void PaintWord(bool solved = false);
-    void PaintHint(const std::string& scope);
-    void PaintBar();
-    void ShowView();
-    void ShowAll();
-    void Repaint(bool highlighted);
+    // A picture to paint on, white at first.
+    struct Canvas : Surface {
+        using Surface::Surface;
 
-    struct Canvas;
+        void Clear(const RECT& area) {
+            Draw(FillMark{area, ToQRgb(white)});
+        }
+        void Fill(const RECT& area, COLORREF color) {
+            Draw(FrameMark{area, ToQRgb(black), ToQRgb(color), QSize()});
+        }
+        void Write(const std::string& text, const RECT& box, const FontChoice& font, UINT format,
+                   COLORREF color) {
+            Draw(TextMark{box, {text.begin(), text.end()}, format, font, ToQRgb(color)});
+        }
+    };
+
+    int CellSide() const {
+        const int fitting = std::min(240 / Side(), ViewHeight() / Side());
+        return settings.size == 0 ? fitting : settings.size == 1 ? 20 : 24;
+    }
+
+    int BoardLeft() const {
+        return std::max((240 - Side() * CellSide()) / 2, 0);
+    }
+
+    RECT Box(PlainCell cell) const {
+        const int left = BoardLeft() + cell.col * CellSide();
+        const int top = cell.row * CellSide();
+        return {left, top, left + CellSide() + 1, top + CellSide() + 1};
+    }
+
+    char& Letter(PlainCell cell) {
+        return letters[static_cast<std::size_t>(cell.row)][static_cast<std::size_t>(cell.col)];
+    }
+
+    char Solution(PlainCell cell) const {
+        return solution[static_cast<std::size_t>(cell.row)][static_cast<std::size_t>(cell.col)];
+    }
+
+    PlainWord SelectedWord() const {
+        return WordAt(words, selected.row, selected.col, direction);
+    }
+
+    std::vector<PlainCell> CellsOf(const std::string& scope) const {
+        const PlainWord word = SelectedWord();
+        std::vector<PlainCell> cells;
+        for (int i = 0; i < Side() * Side(); ++i) {
+            const PlainCell cell{i / Side(), i % Side()};
+            if (scope == "Puzzle" || (scope == "Word" && word.Contains(cell.row, cell.col)) ||
+                cell == selected) {
+                cells.push_back(cell);
+            }
+        }
+        return cells;
+    }
+
+    // In Small the left outline, the top one and all beside the board are no part of it.
+    bool TapBoard(POINT point, bool held) {
+        const int x = point.x - BoardLeft() + scroll.x;
+        const int y = point.y + scroll.y;
+        const int side = Side() * CellSide();
+        if (settings.size == 0 && (x <= 0 || x >= side || y <= 0 || y > side)) {
+            return false;
+        }
+        PaintBoard();
+        for (PlainCell cell : CellsOf("Puzzle")) {
+            const int left = cell.col * CellSide();
+            const int top = cell.row * CellSide();
+            if (x < left || x >= left + CellSide() || y < top || y >= top + CellSide()) {
+                continue;
+            }
+            if (cell == selected && !held) {
+                direction = 1 - direction;
+            }
+            // A cell without both words stays unselected.
+            if (WordAt(words, cell.row, cell.col, 0).length > 1 &&
+                WordAt(words, cell.row, cell.col, 1).length > 1) {
+                selected = cell;
+                PaintWord();
+            }
+        }
+        PaintBar();
+        if (settings.size != 0) {
+            ScrollToWord();
+        }
+        return true;
+    }
+
+    void TapKey(POINT point) {
+        static const auto keys = AllKeys();
+        for (const auto& [name, key] : keys) {
+            const RECT& zone = key.taps;
+            if (point.x < zone.left || point.x > zone.right || point.y < zone.top ||
+                point.y > zone.bottom) {
+                continue;
+            }
+            if (name == okKey) {
+                ToggleKeyboard();
+            } else if (name == eraseKey) {
+                Erase();
+            } else {
+                Enter(name);
+            }
+        }
+        ShowView();
+    }
+
+    void Enter(int key) {
+        if (Solution(selected) == '.') {
+            return;
+        }
+        Letter(selected) = static_cast<char>(key);
+        PaintBoard();
+        const std::vector<PlainCell> word = CellsOf("Word");
+        auto place = std::find(word.begin(), word.end(), selected);
+        while (place + 1 != word.end()) {
+            ++place;
+            if (!settings.autoSkip || Letter(*place) == '-') {
+                break;
+            }
+        }
+        selected = *place;
+        PaintWord();
+        PaintBar();
+    }
+
+    void Erase() {
+        if (Solution(selected) == '.') {
+            return;
+        }
+        Letter(selected) = '-';
+        PaintBoard();
+        const std::vector<PlainCell> word = CellsOf("Word");
+        const auto place = std::find(word.begin(), word.end(), selected);
+        selected = place == word.begin() ? selected : *(place - 1);
+        PaintWord();
+    }
+
+    // Over the words of one direction in the order of their clues; to the corner from the list's
+    // ends.
+    void Jump(bool forward) {
+        std::vector<PlainWord> list;
+        std::copy_if(words.begin(), words.end(), std::back_inserter(list),
+                     [this](const PlainWord& word) { return word.direction == direction; });
+        std::size_t current = 0;
+        while (current < list.size() && !list[current].Contains(selected.row, selected.col)) {
+            ++current;
+        }
+        selected = {};
+        if (forward ? current + 1 < list.size() : current > 0) {
+            const PlainWord& target = list[forward ? current + 1 : current - 1];
+            selected = {target.row, target.col};
+        }
+    }
+
+    // The rules in pixels, one long list.
+    void ScrollToWord() {
+        const PlainWord word = SelectedWord();
+        const int cell = CellSide();
+        const auto showEnd = [cell](auto& position, int view, int last, int from) {
+            const int end = (last + 1) * cell;
+            const bool shows = end > view + position && end - from * cell < view;
+            position = shows ? end - view : position;
+            return shows;
+        };
+        const auto showStart = [cell](auto& position, int view, int first) {
+            if (first * cell < position && position - first * cell < view) {
+                position = first * cell;
+            }
+        };
+        const auto [row, col] = selected;
+        if (direction == 0) {
+            if (!showEnd(scroll.x, 240, word.col + word.length - 1, col)) {
+                showStart(scroll.x, 240, word.col);
+            }
+            if (!showEnd(scroll.y, ViewHeight(), row, row)) {
+                showStart(scroll.y, ViewHeight(), row);
+            }
+            return;
+        }
+        const bool endShown = showEnd(scroll.y, ViewHeight(), word.row + word.length - 1, row);
+        if (!endShown) {
+            showStart(scroll.y, ViewHeight(), word.row);
+        }
+        if (!showEnd(scroll.x, 240, col, col) && !endShown) {
+            showStart(scroll.x, 240, col);
+        }
+    }
+
+    // The bottom edge of a larger board stays over the same row; where there is no board above that
+    // could move down, the top one does.
+    void LayOutBelow(int viewHeightBefore) {
+        if (settings.size == 0) {
+            LayOut();
+            PaintBoard();
+            PaintWord();
+        } else if (scroll.y + viewHeightBefore >= ViewHeight()) {
+            scroll.y += viewHeightBefore - ViewHeight();
+        }
+        ShowAll();
+    }
+
+    // How it looks.
+
+    void LayOut() {
+        scroll = {0, 0};
+        const int side = Side() * CellSide() + 1;
+        board = std::make_shared<Canvas>(std::max(240, side), std::max(268, side));
+    }
+
+    void WriteLetter(PlainCell cell, char letter, COLORREF color) {
+        if (letter != '.' && letter != '-') {
+            const FontChoice font{FontChoice::Face::System, true, (CellSide() - 2) / cellPerEm};
+            board->Write({letter}, Box(cell), font, DT_CENTER | DT_VCENTER | DT_SINGLELINE, color);
+        }
+    }
+
+    // The box reaches so far beyond the cell's inside.
+    void WriteNumber(PlainCell cell, int reach) {
+        const auto number = numbers.find(cell);
+        if (settings.size != 0 && settings.numbers && number != numbers.end()) {
+            const RECT box = Box(cell);
+            const RECT area{box.left + 1, box.top, box.right - 1 + reach, box.bottom - 1 + reach};
+            board->Write(std::to_string(number->second), area, {FontChoice::Face::Small, false, 7},
+                         DT_SINGLELINE, black);
+        }
+    }
+
+    void PaintBoard(bool solved = false) {
+        const int whole = std::max(268, Side() * CellSide() + 1);
+        board->Clear({0, 0, whole, whole});
+        for (PlainCell cell : CellsOf("Puzzle")) {
+            const RECT box = Box(cell);
+            if (Solution(cell) == '.') {
+                board->Fill(box, settings.squares);
+                continue;
+            }
+            const LONG left = box.left + 1;
+            const LONG top = box.top + 1;
+            board->Fill(box, settings.letterCells);
+            board->Draw(LineMark{{left, top, box.right - 1, top + 1}, ToQRgb(grey)});
+            board->Draw(LineMark{{left, top, left + 1, box.bottom - 1}, ToQRgb(grey)});
+            WriteLetter(cell, solved ? Solution(cell) : Letter(cell), solved ? red : black);
+            WriteNumber(cell, CellSide() / 2);
+        }
+    }
+
+    // The squares of the whole word come before what is written in them.
+    void PaintWord(bool solved = false) {
+        const std::vector<PlainCell> word = CellsOf("Word");
+        for (PlainCell cell : word) {
+            board->Fill(Box(cell), cell == selected ? orange : yellow);
+        }
+        for (PlainCell cell : word) {
+            WriteLetter(cell, solved ? Solution(cell) : Letter(cell), solved ? red : black);
+            WriteNumber(cell, CellSide() / 2);
+        }
+    }
+
+    void PaintHint(const std::string& scope) {
+        PaintBoard(scope == "Puzzle");
+        if (scope == "Word") {
+            PaintWord(true);
+        } else if (scope == "Letter") {
+            board->Fill(Box(selected), orange);
+            WriteLetter(selected, Solution(selected), red);
+            // It must not run over the neighbour, which is not painted after it.
+            WriteNumber(selected, 0);
+        }
+        ShowAll();
+    }
+
+    void PaintBar() {
+        const int top = ViewHeight();
+        std::string clue;
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            const PlainWord& word = words[i];
+            if (word.direction == direction && word.Contains(selected.row, selected.col)) {
+                clue = std::to_string(numbers.at({word.row, word.col})) +
+                       (direction == 0 ? " a: " : " d: ") + ClueOf(i) + " (" +
+                       std::to_string(word.length) + ")";
+            }
+        }
+        screen->Clear({0, top, 240, top + 22});
+        screen->Write(clue, {1, top, 239, top + 22}, {FontChoice::Face::System, false, 10},
+                      DT_WORDBREAK, black);
+    }
+
+    void ShowView() {
+        screen->Copy({0, 0, 240, ViewHeight()}, *board, scroll);
+    }
+
+    void ShowAll() {
+        PaintBar();
+        if (keyboardUp) {
+            screen->Draw(ArtMark{{0, 225, 240, 269}, "keyboard.svg"});
+        }
+        ShowView();
+    }
+
+    void Repaint(bool highlighted) {
+        PaintBoard();
+        if (highlighted) {
+            PaintWord();
+        }
+        ShowAll();
+    }
+
     BoardRows solution;
     std::vector<PlainWord> words;
     std::map<PlainCell, int> numbers;
