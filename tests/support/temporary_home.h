@@ -2,15 +2,44 @@
 #pragma once
 
 #include <QtCore/QTemporaryDir>
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <map>
+#include <sstream>
+#include <stdexcept>
 #include <string>
+
+inline void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
+    std::ofstream file(path, std::ios::binary);
+    file << bytes;
+    if (!file.flush()) {
+        throw std::runtime_error("cannot write " + path.string());
+    }
+}
+
+inline std::string ReadBytes(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw std::runtime_error("cannot read " + path.string());
+    }
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
+}
 
 class TemporaryHome {
 public:
     // Sets QUADREL_HOME to a new folder that holds both of the handheld's folders, empty.
-    TemporaryHome();
-    ~TemporaryHome();
+    TemporaryHome() {
+        std::filesystem::create_directories(documents());
+        std::filesystem::create_directories(programFolder());
+        setenv("QUADREL_HOME", root().c_str(), 1);
+    }
+
+    ~TemporaryHome() {
+        unsetenv("QUADREL_HOME");
+    }
 
     std::filesystem::path root() const {
         return folder.path().toStdString();
@@ -22,7 +51,18 @@ public:
         return programFolder() / "quadrel.dat";
     }
     // Every file under the home and what is in it.
-    std::map<std::string, std::string> Files() const;
+    std::map<std::string, std::string> Files() const {
+        std::map<std::string, std::string> files;
+        for (const std::filesystem::directory_entry& entry :
+             std::filesystem::recursive_directory_iterator(root())) {
+            if (entry.is_regular_file()) {
+                files[std::filesystem::relative(entry.path(), root()).string()] =
+                    ReadBytes(entry.path());
+            }
+        }
+        return files;
+    }
+
     std::filesystem::path programFolder() const {
         return root() / "quadrel";
     }
@@ -30,6 +70,3 @@ public:
 private:
     QTemporaryDir folder;
 };
-
-void WriteBytes(const std::filesystem::path& path, const std::string& bytes);
-std::string ReadBytes(const std::filesystem::path& path);
