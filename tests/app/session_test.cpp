@@ -9,7 +9,9 @@
 #include "platform/files.h"
 #include "platform/qt/host/host_window.h"
 #include "platform/windows.h"
+#include "resources/ids.h"
 #include "storage/paths.h"
+#include "support/looks.h"
 #include "support/menus.h"
 #include "support/no_space.h"
 #include "support/plain_record.h"
@@ -18,7 +20,6 @@
 namespace {
 
 const BoardRows otherBoard = {"ABCD", "EF.G", "HIJK", "LMNO"};
-const std::string firstPath = "\\My Documents\\first.puz";
 const std::u16string noPuzzle = u"This file is not a puzzle that Quadrel can open.";
 
 using Messages = std::vector<ShownMessage>;
@@ -28,7 +29,7 @@ protected:
     Session() {
         // With a first letter that somebody has entered: a puzzle starts empty all the same.
         std::string begun = PuzzleBytes(squareBoard, "First");
-        begun[52 + 36] = 'Q';
+        begun[gridOffset + 36] = 'Q';
         PutFile("first.puz", begun);
         PutFile("second.puz", PuzzleBytes(otherBoard, "Second"));
         Start();
@@ -48,22 +49,27 @@ protected:
     void Remove(const std::string& name) {
         std::filesystem::remove(home.documents() / name);
     }
-    void Choose(const std::string& name, int answer = IDYES) {
+    // What is said after the question whether it shall be loaded.
+    Messages Choose(const std::string& name, int answer = IDYES) {
         ChooseNextFile(home.documents() / name);
         AnswerNextMessageBox(answer);
         EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
-    }
-    static ShownMessage Question(const std::u16string& name) {
-        return {u"Do you want to load the puzzle " + name + u" ?", u"Confirm"};
+        Messages said = TakeShownMessages();
+        const std::u16string wide(name.begin(), name.end());
+        EXPECT_EQ(said.at(0),
+                  (ShownMessage{u"Do you want to load the puzzle " + wide + u" ?", u"Confirm"}));
+        said.erase(said.begin());
+        return said;
     }
     void Open(const std::string& name) {
-        Choose(name);
-        EXPECT_EQ(TakeShownMessages(),
-                  (Messages{Question(std::u16string(name.begin(), name.end()))}));
+        EXPECT_EQ(Choose(name), Messages());
     }
     static bool IsEmpty() {
         const std::string solution(SolutionGrid, PlayerLetters().size());
         return PlayerLetters() == EmptyBoard({solution})[0];
+    }
+    bool StateHolds(const std::string& letters) {
+        return ReadBytes(home.stateFile()).find(letters) != std::string::npos;
     }
     // Everything that a player would miss.
     static std::string Present() {
@@ -104,42 +110,33 @@ TEST_F(Session, LettersOfAnotherPuzzleAreDropped) {
     EXPECT_TRUE(IsEmpty()) << "of an older file of the same name";
 }
 
-TEST_F(Session, CancelAndNoChangeAndWriteNothing) {
-    handheld->Type("XYZ");
-    const std::string before = Present();
-    const auto files = home.Files();
-    ChooseNextFile({});
-    EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
-    Choose("second.puz", IDNO);
-    Choose("second.puz", 0);
-    EXPECT_EQ(TakeShownMessages(), (Messages{Question(u"second.puz"), Question(u"second.puz")}));
-    EXPECT_EQ(Present(), before);
-    EXPECT_TRUE(home.Files() == files);
-}
-
 // Faults: the puzzle in play is lost to a file that is none, or its letters are.
-TEST_F(Session, FilesThatCannotBePlayedLeaveThePuzzleInPlay) {
+TEST_F(Session, CancelAndNoAndWhatCannotBePlayedChangeNothing) {
     const std::string good = PuzzleBytes(otherBoard);
     std::string tooLarge = good;
-    tooLarge[44] = tooLarge[45] = 41;
+    tooLarge[widthOffset] = tooLarge[heightOffset] = 41;
     const std::u16string notSquare = u"Quadrel plays square puzzles only. This one is ";
     const std::pair<std::string, std::u16string> files[] = {
         {"<html><body>The page you asked for is not here, sorry.</body></html>", noPuzzle},
         {"", noPuzzle},
         {tooLarge, noPuzzle},
-        {good.substr(0, 52 + 31), noPuzzle},
+        {good.substr(0, gridOffset + 31), noPuzzle},
         {RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes(), noPuzzle},
         {PuzzleBytes(lopsidedBoard), notSquare + u"7 by 5."}};
     handheld->Type("XYZ");
     SelectCell(0, 0, 0);
     RepaintFully(MainWindow);
     const std::string before = Present();
+    const auto filesBefore = home.Files();
+    ChooseNextFile({});
+    EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+    EXPECT_EQ(Choose("second.puz", IDNO), Messages());
+    EXPECT_EQ(Choose("second.puz", 0), Messages());
+    EXPECT_TRUE(home.Files() == filesBefore);
     const QImage screen = handheld->Client();
     for (const auto& [bytes, reason] : files) {
         PutFile("broken.puz", bytes);
-        Choose("broken.puz");
-        EXPECT_EQ(TakeShownMessages(), (Messages{Question(u"broken.puz"), {reason, u"Open File"}}))
-            << bytes.size() << " bytes";
+        EXPECT_EQ(Choose("broken.puz"), (Messages{{reason, u"Open File"}})) << bytes.size();
         EXPECT_EQ(Present(), before) << bytes.size() << " bytes";
         EXPECT_EQ(handheld->Client(), screen);
     }
@@ -148,17 +145,14 @@ TEST_F(Session, FilesThatCannotBePlayedLeaveThePuzzleInPlay) {
 // A file may go while the question is open. Closing the window answers it with No and saves.
 TEST_F(Session, WhatHappensDuringTheQuestionCostsNoLetters) {
     handheld->Type("XYZ");
-    const std::string letters = PlayerLetters();
     DoDuringNextMessageBox([this] { Remove("second.puz"); });
-    Choose("second.puz");
-    EXPECT_EQ(TakeShownMessages(), (Messages{Question(u"second.puz"),
-                                             {u"This file could not be opened.", u"Open File"}}));
-    EXPECT_EQ(PlayerLetters(), letters);
+    EXPECT_EQ(Choose("second.puz"), (Messages{{u"This file could not be opened.", u"Open File"}}));
+    EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+    PutFile("second.puz", PuzzleBytes(otherBoard));
     DoDuringNextMessageBox([] { Host().close(); });
-    Choose("second.puz", 0);
-    TakeShownMessages();
+    EXPECT_EQ(Choose("second.puz", 0), Messages());
     EXPECT_FALSE(handheld->Running());
-    EXPECT_NE(ReadBytes(home.stateFile()).find("XYZ.--"), std::string::npos);
+    EXPECT_TRUE(StateHolds("XYZ.--"));
 }
 
 // A folder with a puzzle's name is none, nor are files that cannot be played.
@@ -175,10 +169,7 @@ TEST_F(Session, WithoutAPuzzleEverythingIsTakenCalmlyAndOneIsShownWhereverItIs) 
     EXPECT_EQ(TakeShownMessages(),
               (Messages{{u"Please choose a puzzle file from the Available Puzzles option.",
                          u"Choose File"}}));
-    const QImage bar = handheld->Client().copy(0, 248, 240, 20);
-    QImage white(bar.size(), bar.format());
-    white.fill(Qt::white);
-    EXPECT_EQ(bar, white) << "a clue where there is no puzzle";
+    ExpectLooksAsRecorded(handheld->Screen(), "No puzzle");
     handheld->Tap(3, 3);
     for (int key : {int{'A'}, int{Qt::Key_Left}, int{Qt::Key_Right}, int{Qt::Key_Return},
                     int{Qt::Key_Backspace}}) {
@@ -197,37 +188,34 @@ TEST_F(Session, WithoutAPuzzleEverythingIsTakenCalmlyAndOneIsShownWhereverItIs) 
 TEST_F(Session, EveryWayOfEndingWritesTheState) {
     BoardRows letters = EmptyBoard(squareBoard);
     letters[0][0] = 'B';
-    const std::vector<void (*)(Handheld&)> endings = {
-        [](Handheld& running) { running.Close(); },
-        [](Handheld& running) { ChooseFromBar(running, "Main Menu", {"Exit"}); },
-        [](Handheld& running) { running.Press(Qt::Key_Q, Qt::ControlModifier); },
-        [](Handheld& running) { running.Press(Qt::Key_Down, Qt::ControlModifier); },
-        [](Handheld& running) {
-            SendMessageW(MainWindow, WM_SIZE, SIZE_MINIMIZED, 0);
-            running.Settle();
-        }};
-    for (std::size_t ending = 0; ending < endings.size(); ++ending) {
+    for (const auto ending : std::initializer_list<void (*)(Handheld&)>{
+             [](Handheld& running) { running.Close(); },
+             [](Handheld& running) { ChooseFromBar(running, "Main Menu", {"Exit"}); },
+             [](Handheld& running) { running.Press(Qt::Key_Q, Qt::ControlModifier); },
+             [](Handheld& running) { running.Press(Qt::Key_Down, Qt::ControlModifier); },
+             [](Handheld& running) {
+                 SendMessageW(MainWindow, WM_SIZE, SIZE_MINIMIZED, 0);
+                 running.Settle();
+             }}) {
         handheld.reset();
         std::filesystem::remove(home.stateFile());
         Start();
         handheld->Type("B");
-        endings[ending](*handheld);
-        EXPECT_FALSE(handheld->Running()) << ending;
-        EXPECT_TRUE(ReadBytes(home.stateFile()) == PlainRecord(firstPath, letters, {})) << ending;
+        ending(*handheld);
+        EXPECT_FALSE(handheld->Running());
+        EXPECT_TRUE(ReadBytes(home.stateFile()) ==
+                    PlainRecord("\\My Documents\\first.puz", letters, {}));
     }
 }
 
 // What is missing or locked today may be there and unlocked tomorrow.
 TEST_F(Session, LettersWaitForTheirPuzzle) {
     BoardRows scrambled = squareBoard;
-    scrambled[0] = "QQQ.QQ";
+    for (std::string& row : scrambled) {
+        std::replace_if(row.begin(), row.end(), isalpha, 'Q');
+    }
     std::string locked = PuzzleBytes(scrambled);
     locked[50] = 4;
-    for (std::string& row : scrambled) {
-        std::replace_if(
-            row.begin(), row.end(), [](char cell) { return cell != '.'; }, 'Q');
-    }
-    locked.replace(gridOffset, 36, Joined(scrambled));
     handheld->Type("XYZ");
     for (const std::string& bytes : {locked, PuzzleBytes(squareBoard)}) {
         PutFile("first.puz", bytes);
@@ -269,7 +257,7 @@ TEST_F(Session, TheStateIsKeptWhileItIsPlayedAndAFullDiskIsToldOnce) {
     handheld->Type("XYZ");
     EXPECT_EQ(keep(), 1);
     EXPECT_EQ(keep(), 0);
-    EXPECT_NE(ReadBytes(home.stateFile()).find("XYZ"), std::string::npos);
+    EXPECT_TRUE(StateHolds("XYZ"));
     std::filesystem::remove(home.stateFile());
     EXPECT_EQ(keep(), 0);
     EXPECT_FALSE(std::filesystem::exists(home.stateFile())) << "nothing has changed";
@@ -279,35 +267,29 @@ TEST_F(Session, TheStateIsKeptWhileItIsPlayedAndAFullDiskIsToldOnce) {
         for (int time = 0; time < 3; ++time) {
             keep();
         }
-        const auto told = TakeShownMessages();
-        ASSERT_EQ(told.size(), 1u);
-        EXPECT_EQ(told[0].title, u"Save");
+        EXPECT_EQ(TakeShownMessages().size(), 1u);
         AnswerNextMessageBox(IDYES);
-        Choose("second.puz", IDNO);
-        EXPECT_EQ(TakeShownMessages().size(), 2u);
+        EXPECT_EQ(Choose("second.puz", IDNO).size(), 1u);
         EXPECT_EQ(PlayerLetters().substr(0, 4), "XYQ.");
     }
     keep();
     EXPECT_EQ(AwaitFiles(), 0u);
-    EXPECT_NE(ReadBytes(home.stateFile()).find("XYQ."), std::string::npos);
+    EXPECT_TRUE(StateHolds("XYQ."));
 }
 
 TEST_F(Session, BoxesSayWhatTheyAreAbout) {
-    const auto said = [this](const ItemPath& path) {
-        EXPECT_TRUE(path.isEmpty() ? handheld->PressButton("Checks the puzzle")
-                                   : ChooseFromBar(*handheld, "Main Menu", path));
+    const auto said = [this](int command) {
+        SendMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(command), 0);
         return TakeShownMessages();
     };
-    const Messages nothingToCheck{
-        {u"This button will check puzzle for errors. You've have not yet started the puzzle, so "
-         u"there is nothing to check.",
-         u"Puzzle Checker"}};
-    EXPECT_EQ(said({}), nothingToCheck);
+    EXPECT_EQ(said(commandCheck),
+              (Messages{{u"This button will check puzzle for errors. You've have not yet started "
+                         u"the puzzle, so there is nothing to check.",
+                         u"Puzzle Checker"}}));
     handheld->Type("AB");
-    EXPECT_EQ(said({}),
+    EXPECT_EQ(said(commandCheck),
               (Messages{{u"All the letters entered so far are correct.", u"Nothing Wrong"}}));
     // A stray Enter must not cost the letters.
-    const std::string letters = PlayerLetters();
     DoDuringNextMessageBox([] {
         const QPointer<QWidget> box = QApplication::activeModalWidget();
         SendKey(box->focusWidget(), Qt::Key_Return);
@@ -315,11 +297,11 @@ TEST_F(Session, BoxesSayWhatTheyAreAbout) {
             QCoreApplication::processEvents();
         }
     });
-    EXPECT_EQ(said({"Clear", "Puzzle"}),
+    EXPECT_EQ(said(commandClearPuzzle),
               (Messages{{u"Do you want to clear the puzzle ? This cannot be undone.",
                          u"Are You Sure?"}}));
-    EXPECT_EQ(PlayerLetters(), letters);
-    const auto info = said({"Puzzle Info"});
+    EXPECT_EQ(PlayerLetters().substr(0, 2), "AB");
+    const auto info = said(commandPuzzleInfo);
     ASSERT_EQ(info.size(), 1u);
     EXPECT_EQ(info[0].title, u"Puzzle Information");
     for (const char16_t* text : {u"First", u"Author", u"Copyright"}) {
