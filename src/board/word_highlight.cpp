@@ -27,7 +27,7 @@ void FillWordCells(HDC context) {
     const Owned cellBrush(CreateSolidBrush(SelectedCellColor));
     const Owned outlinePen(CreatePen(PS_SOLID, 1, RGB(0, 0, 0)));
     const Selected pen(context, outlinePen);
-    if (!SelectionIsBlack()) {
+    {
         const Selected brush(context, wordBrush);
         ForEachCellOfWord([context](int row, int col) { DrawCellSquare(context, row, col); });
     }

@@ -62,5 +62,5 @@ WordExtent FindSelectedExtent() {
 }
 
 bool SelectionIsBlack() {
-    return PlayerGrid[SelectedCell()] == blackSquare;
+    return SolutionGrid[SelectedCell()] == blackSquare;
 }

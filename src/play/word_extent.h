@@ -29,7 +29,7 @@ int SelectedCell();
 // The selected cell's word in the current Direction; the cell itself when it has none.
 WordExtent FindSelectedExtent();
 
-// True when the selected cell is a black square of the player's grid.
+// True when the selected cell is a black square of the puzzle; the player's grid may have others.
 bool SelectionIsBlack();
 
 // Calls visit(row, col) from the selected word's first cell to its last.

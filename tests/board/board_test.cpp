@@ -4,6 +4,7 @@
 
 #include <sstream>
 
+#include "board/hints.h"
 #include "support/looks.h"
 #include "support/menus.h"
 #include "support/played_board.h"
@@ -45,6 +46,12 @@ TEST_F(Board, ABlackSquareOfThePlayersGridAloneIsOneToThePlayer) {
     EXPECT_EQ(CursorCol, 1) << "the search for an empty cell stops before it";
     SelectCell(1, 2, 0);
     handheld->Type("Q");
+    ShowWordSolution(MainWindow);
+    const QImage hint = handheld->Client();
+    PlayerGrid[8] = '-';
+    ShowWordSolution(MainWindow);
+    EXPECT_EQ(handheld->Client(), hint);
+    PlayerGrid[8] = '.';
     for (const char* menu : {"Fill", "Clear"}) {
         EXPECT_TRUE(ChooseFromBar(*handheld, "Main Menu", {menu, "Letter"}));
         EXPECT_TRUE(ChooseFromBar(*handheld, "Main Menu", {menu, "Word"}));

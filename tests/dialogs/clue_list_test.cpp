@@ -89,6 +89,10 @@ TEST_F(ClueList, KeysGoAlongTheLinesAndEnterOrSpaceTakesOne) {
             }
             dialog.Press(Qt::Key_End);
             EXPECT_EQ(list->currentRow(), list->count() - 1);
+            dialog.Press(Qt::Key_Right);
+            dialog.TapTab(controlClueTabs, 1);
+            EXPECT_EQ(list->horizontalScrollBar()->value() + list->verticalScrollBar()->value(), 0);
+            dialog.TapTab(controlClueTabs, 0);
             dialog.Press(Qt::Key_Home);
             dialog.Press(Qt::Key_Down);
             EXPECT_TRUE(dialog.IsOpen());

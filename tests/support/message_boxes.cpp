@@ -4,6 +4,7 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QTimer>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QColorDialog>
 #include <QtWidgets/QDialogButtonBox>
@@ -74,6 +75,10 @@ void Answer(QDialog* box) {
 void Answer(QFileDialog* dialog) {
     EXPECT_EQ(dialog->nameFilters(), QStringList("Puzzle files (*.puz *.PUZ)"));
     EXPECT_EQ(dialog->sidebarUrls().size(), 3);
+    EXPECT_TRUE(dialog->testOption(QFileDialog::ReadOnly)) << "files can be deleted";
+    for (const auto* view : dialog->findChildren<QAbstractItemView*>()) {
+        EXPECT_EQ(view->dragDropMode(), QAbstractItemView::NoDragDrop);
+    }
     const QList<int> widths = dialog->findChild<QSplitter*>("splitter")->sizes();
     EXPECT_NEAR(widths[1], 2 * widths[0], dialog->width() / 10);
     shownChoosers.push_back({dialog->windowTitle().toStdU16String(),

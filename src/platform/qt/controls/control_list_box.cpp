@@ -41,7 +41,7 @@ struct ListBox : Control {
         switch (message) {
             case LB_ADDSTRING: return Add(text);
             case LB_DELETESTRING: return Delete(line);
-            case LB_RESETCONTENT: List()->clear(); return 0;
+            case LB_RESETCONTENT: Empty(); return 0;
             case LB_SETCURSEL: return Select(line);
             case LB_GETCURSEL: return List()->currentRow();
             case LB_GETTEXT: return CopyText(line, reinterpret_cast<WCHAR*>(lParam));
@@ -76,6 +76,13 @@ struct ListBox : Control {
         List()->setCurrentRow(-1);
         delete List()->takeItem(line);
         return List()->count();
+    }
+
+    // The next content begins at its top, wherever the player was in this one.
+    void Empty() {
+        List()->clear();
+        List()->horizontalScrollBar()->setValue(0);
+        List()->verticalScrollBar()->setValue(0);
     }
 
     int Rows() const {

@@ -95,6 +95,17 @@ QString NameFilter(const WCHAR* filter) {
     return QString("%1 (%2 %3)").arg(QString::fromUtf16(filter), pattern, pattern.toUpper());
 }
 
+// It chooses and does nothing else: a swipe would drag a puzzle into the folder above it.
+void LockFiles(QFileDialog& dialog) {
+    dialog.setOption(QFileDialog::ReadOnly);
+    for (auto* view : dialog.findChildren<QAbstractItemView*>()) {
+        view->setDragDropMode(QAbstractItemView::NoDragDrop);
+    }
+    if (auto* newFolder = dialog.findChild<QToolButton*>("newFolderButton")) {
+        newFolder->hide();
+    }
+}
+
 void SetUp(QFileDialog& dialog, const OPENFILENAMEW& request) {
     dialog.setWindowTitle(QString::fromUtf16(request.lpstrTitle));
     dialog.setNameFilter(NameFilter(request.lpstrFilter));
@@ -102,6 +113,7 @@ void SetUp(QFileDialog& dialog, const OPENFILENAMEW& request) {
                            QUrl::fromLocalFile(DocumentsFolderOnHost()),
                            QUrl::fromLocalFile(QDir::homePath())});
     MakeReadable(dialog);
+    LockFiles(dialog);
 }
 
 bool Run(QFileDialog& dialog, QString& chosen) {

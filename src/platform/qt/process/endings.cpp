@@ -4,8 +4,11 @@
 #include <unistd.h>
 
 #include <QtCore/QSocketNotifier>
+#include <QtCore/QThread>
 #include <QtGui/QGuiApplication>
 #include <csignal>
+#include <cstdlib>
+#include <utility>
 
 #include "platform/qt/window/end_request.h"
 #include "platform/qt/window/window.h"
@@ -40,13 +43,29 @@ void WatchSignals() {
     }
 }
 
-// When the display server goes away, the toolkit says so and then ends the process on the spot.
-// These words are all the notice there is.
+// On the program's thread. What the toolkit holds is of no use any more, so nothing is put away.
+void EndWithoutDisplay() {
+    static bool ending = false;
+    if (!std::exchange(ending, true)) {
+        SendMessageW(BottomWindow(), WM_CLOSE, 0, 0);
+        _exit(EXIT_FAILURE);
+    }
+}
+
+// When the display server goes away, the toolkit says so, on the program's thread or on one of its
+// own or on both, and then ends the process on the spot. These words are all the notice there is.
 void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     previousHandler(type, context, message);
-    if (message.startsWith("The X11 connection broke") ||
-        message.startsWith("The Wayland connection broke")) {
-        SendMessageW(BottomWindow(), WM_CLOSE, 0, 0);
+    if (!message.startsWith("The X11 connection broke") &&
+        !message.startsWith("The Wayland connection broke")) {
+        return;
+    }
+    if (QThread::currentThread() == qApp->thread()) {
+        EndWithoutDisplay();
+    } else {
+        QMetaObject::invokeMethod(qApp, EndWithoutDisplay, Qt::QueuedConnection);
+        constexpr int whileTheOtherSaves = 5;
+        QThread::sleep(whileTheOtherSaves);
     }
 }
 

@@ -1,6 +1,10 @@
-// One instance for a user and a program folder: the first one listens on a local socket.
+// One instance for a user and a program folder. The first one holds a lock, which ends with it
+// however it ends, and listens on a socket beside it, in a folder that is closed to everybody else.
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -9,10 +13,7 @@
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTimer>
-#include <cerrno>
 #include <chrono>
-#include <cstddef>
-#include <cstring>
 #include <thread>
 
 #include "platform/qt/files/device_paths.h"
@@ -23,67 +24,90 @@
 
 namespace {
 
-// For an instance that is being ended, or that a debugger holds.
-constexpr std::chrono::seconds patience(10);
+using std::chrono::seconds;
 
+// What a call is answered with.
+constexpr char isHere = 1;
+constexpr char isEnding = 2;
+
+// What an instance writes into its lock when it has begun to answer.
+constexpr char answersCalls = 1;
+
+int folder = -1;
+int lock = -1;
 int listener = -1;
 
-QByteArray SocketName(const WCHAR* className) {
-    const QByteArray folder =
-        QCryptographicHash::hash(ProgramFolderOnHost().toUtf8(), QCryptographicHash::Sha256);
-    return QString::fromUtf16(className).toLower().toUtf8() + '-' + QByteArray::number(getuid()) +
-           '-' + folder.toHex().left(16);
+// -1 when the folder is not the user's alone.
+int OpenPrivateFolder(const QByteArray& path) {
+    const int opened = open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    struct stat status {};
+    if (opened >= 0 && fstat(opened, &status) == 0 && status.st_uid == getuid() &&
+        (status.st_mode & (S_IRWXG | S_IRWXO)) == 0) {
+        return opened;
+    }
+    close(opened);
+    return -1;
 }
 
-struct Address {
-    sockaddr_un name{};
-    socklen_t size = 0;
-
-    const sockaddr* Name() const {
-        return reinterpret_cast<const sockaddr*>(&name);
+int OpenRuntimeFolder() {
+    const int sessions = OpenPrivateFolder(qgetenv("XDG_RUNTIME_DIR"));
+    if (sessions >= 0) {
+        return sessions;
     }
-};
+    const QByteArray own = ProgramFolderOnHost().toUtf8() + "/run";
+    mkdir(own, S_IRWXU);
+    return OpenPrivateFolder(own);
+}
 
-// A name that begins with a zero is in no folder: the kernel gives it to one process at a time and
-// frees it when that ends, so two starts at once cannot both get it and a crash leaves nothing.
-Address AbstractAddress(const QByteArray& name) {
-    Address address;
-    address.name.sun_family = AF_UNIX;
-    const auto length =
-        std::min(static_cast<size_t>(name.size()), sizeof address.name.sun_path - 1);
-    std::memcpy(address.name.sun_path + 1, name.data(), length);
-    address.size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + length);
+QByteArray InstanceName(const WCHAR* className) {
+    const QByteArray home =
+        QCryptographicHash::hash(ProgramFolderOnHost().toUtf8(), QCryptographicHash::Sha256);
+    return QString::fromUtf16(className).toLower().toUtf8() + '-' + home.toHex().left(16);
+}
+
+// Through the open folder: the name of a socket must be short.
+sockaddr_un AddressOf(const QByteArray& name) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const QByteArray path = "/proc/self/fd/" + QByteArray::number(folder) + '/' + name;
+    qstrncpy(address.sun_path, path, sizeof address.sun_path);
     return address;
 }
 
-int OpenSocket(int kind) {
-    return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | kind, 0);
+bool IsOfThisUser(int call) {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return getsockopt(call, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == getuid();
 }
 
-bool Listen(const Address& address) {
-    const int candidate = OpenSocket(SOCK_NONBLOCK);
-    if (bind(candidate, address.Name(), address.size) != 0) {
-        const int reason = errno;
-        close(candidate);
-        errno = reason;
-        return false;
+bool TakeLock(const QByteArray& name) {
+    lock = openat(folder, name + ".lock", O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (flock(lock, LOCK_EX | LOCK_NB) == 0) {
+        return ftruncate(lock, 0) == 0;
     }
+    close(lock);
+    return false;
+}
+
+void Listen(const QByteArray& name) {
+    unlinkat(folder, name, 0);
+    const sockaddr_un address = AddressOf(name);
+    listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     constexpr int waitingCalls = 8;
-    listen(candidate, waitingCalls);
-    listener = candidate;
-    return true;
+    if (bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
+        listen(listener, waitingCalls);
+    }
 }
 
-// An instance that is about to end leaves a call unanswered; it breaks off when the process is
-// gone, and the caller takes its place.
+// A call to an instance that is about to end breaks off when the process is gone, and the caller
+// takes its place.
 void Answer(int call) {
-    if (BottomWindow() == nullptr || EndingAsked()) {
-        return;
+    const bool ending = BottomWindow() == nullptr || EndingAsked();
+    [[maybe_unused]] const auto sent = send(call, ending ? &isEnding : &isHere, 1, MSG_NOSIGNAL);
+    if (!ending) {
+        Host().ComeForward();
+        close(call);
     }
-    Host().ComeForward();
-    const char here = 1;
-    [[maybe_unused]] const auto written = send(call, &here, 1, MSG_NOSIGNAL);
-    close(call);
 }
 
 // Not at once: a player who closes the window and starts the game again means the second.
@@ -91,7 +115,11 @@ void AnswerCalls() {
     constexpr std::chrono::milliseconds timeForAnEnding(50);
     int call = -1;
     while ((call = accept4(listener, nullptr, nullptr, SOCK_CLOEXEC)) >= 0) {
-        QTimer::singleShot(timeForAnEnding, [call] { Answer(call); });
+        if (IsOfThisUser(call)) {
+            QTimer::singleShot(timeForAnEnding, [call] { Answer(call); });
+        } else {
+            close(call);
+        }
     }
 }
 
@@ -99,17 +127,38 @@ void WatchForCalls() {
     auto* notifier =
         new QSocketNotifier(listener, QSocketNotifier::Read, QCoreApplication::instance());
     QObject::connect(notifier, &QSocketNotifier::activated, AnswerCalls);
+    QTimer::singleShot(
+        0, [] { [[maybe_unused]] const auto written = pwrite(lock, &answersCalls, 1, 0); });
 }
 
-bool OtherComesForward(const Address& address) {
-    const int call = OpenSocket(0);
+// One that is starting still has some time until it answers; one that hangs is not waited for.
+seconds PatienceWith(const QByteArray& name) {
+    struct stat status {};
+    const bool answers = fstatat(folder, name + ".lock", &status, 0) == 0 && status.st_size > 0;
+    return seconds(answers ? 1 : 10);
+}
+
+// 0 when nothing is received in that time.
+char Receive(int call, seconds patience) {
     const timeval wait{patience.count(), 0};
     setsockopt(call, SOL_SOCKET, SO_RCVTIMEO, &wait, sizeof wait);
     char answer = 0;
-    const bool answered =
-        connect(call, address.Name(), address.size) == 0 && recv(call, &answer, 1, 0) == 1;
+    return recv(call, &answer, 1, 0) == 1 ? answer : 0;
+}
+
+char CallOther(const QByteArray& name) {
+    const sockaddr_un address = AddressOf(name);
+    const int call = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    char answer = 0;
+    if (connect(call, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+        IsOfThisUser(call)) {
+        answer = Receive(call, PatienceWith(name));
+        if (answer == isEnding) {
+            Receive(call, seconds(10));
+        }
+    }
     close(call);
-    return answered;
+    return answer;
 }
 
 // True when this process is now the instance, or nobody can tell; false when another one is, which
@@ -119,18 +168,20 @@ bool ClaimInstance(const WCHAR* className) {
     if (listener >= 0) {
         return true;
     }
-    const Address address = AbstractAddress(SocketName(className));
-    const auto deadline = std::chrono::steady_clock::now() + patience;
-    while (!Listen(address)) {
-        if (errno != EADDRINUSE) {
+    folder = OpenRuntimeFolder();
+    const QByteArray name = InstanceName(className);
+    const auto start = std::chrono::steady_clock::now();
+    while (folder >= 0 && std::chrono::steady_clock::now() < start + PatienceWith(name)) {
+        if (TakeLock(name)) {
+            Listen(name);
+            WatchForCalls();
             return true;
         }
-        if (OtherComesForward(address) || std::chrono::steady_clock::now() > deadline) {
+        if (CallOther(name) == isHere) {
             return false;
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
-    WatchForCalls();
     return true;
 }
 
