@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <iostream>
 
 #include "platform/qt/process/bring_up.h"
+#include "platform/qt/window/keep_state.h"
 #include "support/message_boxes.h"
 
 namespace {
@@ -20,6 +22,7 @@ int main(int argumentCount, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(ShowWarning);
     testing::InitGoogleTest(&argumentCount, arguments);
+    timeUntilKept = INT_MAX;  // tests ask for it themselves
     const auto handheld = BringHandheldUp(argumentCount, arguments);
     AnswerBoxes();
     return RUN_ALL_TESTS();
