@@ -2,6 +2,7 @@
 
 #include "platform/errors.h"
 #include "platform/qt/files/device_paths.h"
+#include "platform/qt/files/litter.h"
 #include "platform/text.h"
 #include "storage/paths.h"
 #include "support/no_space.h"
@@ -60,6 +61,27 @@ TEST_F(Files, AWriteShowsOnlyWhenAllOfItIsOnTheDisk) {
             EXPECT_EQ(home.Files().size(), files) << "a temporary file was left behind";
         }
     }
+}
+
+TEST_F(Files, OnlyOldTemporaryFilesOfTheGameAreLitter) {
+    const auto now = std::filesystem::file_time_type::clock::now();
+    const std::pair<const char*, bool> names[] = {{"quadrel.dat.aBcDeF", true},
+                                                  {"a.puz.ABCDEf", true},
+                                                  {"a.dat.backup", false},
+                                                  {"a.dat.aBcDeFg", false},
+                                                  {"a.txt.aBcDeF", false}};
+    for (const auto& [name, litter] : names) {
+        for (const auto& folder : {home.documents(), home.programFolder()}) {
+            for (int age : {5, 500}) {
+                WriteBytes(folder / name, "x");
+                last_write_time(folder / name, now - std::chrono::seconds(age));
+                RemoveLitter();
+                EXPECT_EQ(exists(folder / name), !litter || age == 5) << name;
+            }
+        }
+    }
+    handheld.reset();
+    EXPECT_EQ(status(home.stateFile()).permissions(), std::filesystem::perms(0600));
 }
 
 // Accents and characters beyond the basic plane come back from the record as they were.

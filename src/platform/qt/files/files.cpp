@@ -66,7 +66,14 @@ std::unique_ptr<FileObject> OpenWriter(const QString& path, DWORD attributes) {
     auto file = std::make_unique<FileObject>();
     file->takesItsPlaceLater = (attributes & FILE_FLAG_OVERLAPPED) != 0;
     file->writer = std::make_unique<QSaveFile>(path);
-    return Open(*file->writer, QIODevice::WriteOnly) ? std::move(file) : nullptr;
+    if (!Open(*file->writer, QIODevice::WriteOnly)) {
+        return nullptr;
+    }
+    // Documents follow the user's mask; what is the game's own is nobody else's business.
+    if (path.startsWith(ProgramFolderOnHost() + '/')) {
+        file->writer->setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    }
+    return file;
 }
 
 // Puts the file in its place; 0, or why it could not be.

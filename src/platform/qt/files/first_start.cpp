@@ -15,17 +15,17 @@ bool HoldsPuzzles(const QString& folder) {
     });
 }
 
-// Copying fails where a file of that name is, so nothing is ever overwritten.
+// Nothing is ever overwritten.
 void CopyPuzzles(const QStringList& names, const QString& folder) {
     if (HoldsPuzzles(folder)) {
         return;
     }
     QDir().mkpath(folder);
     for (const QString& name : names) {
-        const QString target = folder + '/' + name;
-        if (QFile::copy(":/puzzles/" + name, target)) {
-            QFile::setPermissions(
-                target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+        QFile source(":/puzzles/" + name);
+        QFile target(folder + '/' + name);
+        if (source.open(QFile::ReadOnly) && target.open(QFile::WriteOnly | QFile::NewOnly)) {
+            target.write(source.readAll());
         }
     }
 }
@@ -38,6 +38,7 @@ void PrepareFolders() {
     const QString programFolder = ProgramFolderOnHost();
     const bool hasState = QFile::exists(programFolder + "/quadrel.dat");
     QDir().mkpath(programFolder);
+    QFile::setPermissions(programFolder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     if (hasState) {
         return;
     }

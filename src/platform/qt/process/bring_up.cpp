@@ -1,6 +1,9 @@
 #include "platform/qt/process/bring_up.h"
 
+#include <QtCore/QTimer>
+
 #include "platform/qt/files/first_start.h"
+#include "platform/qt/files/litter.h"
 #include "platform/qt/input/tap_guard.h"
 #include "platform/qt/look/font_warm_up.h"
 #include "platform/qt/process/endings.h"
@@ -26,6 +29,8 @@ int RunProgram() {
     WatchForEndings();
     WatchForPauses();
     PrepareFolders();
+    constexpr int behindTheStart = 1000;
+    QTimer::singleShot(behindTheStart, RemoveLitter);
     WCHAR commandLine[] = u"";
     const int exitCode = WinMain(&programResources, nullptr, commandLine, SW_SHOW);
     AwaitFonts();
