@@ -134,8 +134,8 @@ TEST_F(Downloads, OnlyOkKeepsTheLinksAsTheyAreShown) {
 }
 
 TEST_F(Downloads, AChosenOrANewLinkIsEditedWithTheInputPanelUpAndListedOnce) {
-    server.Put("/A.PUZ", Page(puzzle));
-    server.Put("/a.puz", Page(puzzle));
+    server.Put("/A.PUZ", {{Page(puzzle)}});
+    server.Put("/a.puz", {{Page(puzzle)}});
     Use([&](OpenDialog& dialog) {
         EXPECT_FALSE(Host().PanelUp());
         dialog.TapLine(controlLinks, 0);
@@ -178,7 +178,8 @@ TEST_F(Downloads, EveryBlockIsStoredUnderTheSuggestedName) {
 
 TEST_F(Downloads, FailuresAndANoStoreNothing) {
     EXPECT_EQ(ToldAbout("gopher://127.0.0.1/"), Error(u"InternetOpenUrl Error: 2ee6"));
-    EXPECT_EQ(ToldAbout(RefusedLink()), Error(u"InternetOpenUrl Error: 2efd"));
+    const std::string refused = WebServer().Link("/a.puz");
+    EXPECT_EQ(ToldAbout(refused), Error(u"InternetOpenUrl Error: 2efd"));
     EXPECT_EQ(Told({{Page(puzzle).substr(0, 150)}}), Error(u"InternetReadFile Error: 2eff"));
     const QString usual = std::exchange(networkModuleName, "libquadrel_network_missing.so");
     EXPECT_EQ(Told({{Page(puzzle)}}), Error(u"The network cannot be used: 7e"));
@@ -269,7 +270,7 @@ TEST_F(Downloads, WhatCannotBeWrittenSaysWhy) {
 
 TEST_F(Downloads, AskedToEndOneEndsAtOnceAndSaysNothing) {
     QTimer::singleShot(30, &Host(), [] { Host().close(); });
-    EXPECT_EQ(Told({{}, 0, WebAnswer::Ending::StayOpen}), Messages());
+    EXPECT_EQ(Told({{}, 0, true}), Messages());
     handheld->Settle();
     EXPECT_FALSE(handheld->Running());
 }

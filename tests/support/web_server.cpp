@@ -11,17 +11,8 @@
 
 namespace {
 
-QByteArray ToBytes(const std::string& text) {
-    return QByteArray::fromStdString(text);
-}
-
-std::string PathOf(const std::string& head) {
-    const std::size_t start = head.find(' ') + 1;
-    return head.substr(start, head.find(' ', start) - start);
-}
-
 std::unique_ptr<QTcpServer> SecureServer(const std::string& certificate) {
-    const QByteArray bytes = ToBytes(ReadBytes(CERTIFICATES + certificate + ".pem"));
+    const auto bytes = QByteArray::fromStdString(ReadBytes(CERTIFICATES + certificate + ".pem"));
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
     configuration.setLocalCertificate(QSslCertificate(bytes));
     configuration.setPrivateKey(QSslKey(bytes, QSsl::Ec));
@@ -32,11 +23,11 @@ std::unique_ptr<QTcpServer> SecureServer(const std::string& certificate) {
 
 void SendFrom(std::size_t piece, QTcpSocket* socket, const WebAnswer& answer) {
     if (piece < answer.pieces.size()) {
-        socket->write(ToBytes(answer.pieces[piece]));
+        socket->write(QByteArray::fromStdString(answer.pieces[piece]));
         socket->flush();
         QTimer::singleShot(answer.pause, Qt::PreciseTimer, socket,
                            [=] { SendFrom(piece + 1, socket, answer); });
-    } else if (answer.ending == WebAnswer::Ending::Close) {
+    } else if (!answer.staysOpen) {
         socket->disconnectFromHost();
     }
 }
@@ -60,7 +51,7 @@ std::string Redirection(const std::string& target) {
 std::string Gzip(const std::string& content) {
     QProcess gzip;
     gzip.start("gzip", {"-c"});
-    gzip.write(ToBytes(content));
+    gzip.write(QByteArray::fromStdString(content));
     gzip.closeWriteChannel();
     if (!gzip.waitForFinished() || gzip.exitCode() != 0) {
         throw std::runtime_error("gzip does not work");
@@ -96,19 +87,13 @@ void WebServer::Receive(QTcpSocket* socket) {
 
 WebAnswer WebServer::AnswerTo(const std::string& head) {
     requests.push_back(head);
-    const auto found = answers.find(PathOf(head));
-    return found != answers.end() ? found->second
-                                  : WebAnswer{{Page("Nothing is here.", "404 Not Found")}};
+    const std::string path = head.substr(4, head.find(' ', 4) - 4);  // after "GET "
+    return answers.try_emplace(path, WebAnswer{{Page("Nothing is here.", "404 Not Found")}})
+        .first->second;
 }
 
 void WebServer::HangUp() {
     for (auto* socket : server->findChildren<QTcpSocket*>()) {
         socket->abort();
     }
-}
-
-std::string RefusedLink() {
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    return "http://127.0.0.1:" + std::to_string(server.serverPort()) + "/a.puz";
 }

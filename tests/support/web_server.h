@@ -8,11 +8,9 @@
 #include <vector>
 
 struct WebAnswer {
-    enum class Ending { Close, StayOpen };
-
     std::vector<std::string> pieces;  // sent one after the other
     int pause = 0;                    // milliseconds before each piece but the first
-    Ending ending = Ending::Close;
+    bool staysOpen = false;
 };
 
 // An answer's head and content in one string.
@@ -24,6 +22,7 @@ std::string Redirection(const std::string& target);
 
 std::string Gzip(const std::string& content);
 
+// Nobody listens on its port any more when it is gone.
 class WebServer {
 public:
     // With the name of a certificate in support/certificates, pages are safe. The program is made
@@ -33,9 +32,6 @@ public:
     // Every other path is answered with 404.
     void Put(const std::string& path, const WebAnswer& answer) {
         answers[path] = answer;
-    }
-    void Put(const std::string& path, const std::string& answer) {
-        Put(path, WebAnswer{{answer}});
     }
     std::string Link(const std::string& path) const {
         return root + path;
@@ -56,6 +52,3 @@ private:
     std::string root;
     std::unique_ptr<QTcpServer> server;
 };
-
-// The address of a port that nobody listens on.
-std::string RefusedLink();
