@@ -83,8 +83,13 @@ void TakeSelectedLink(HWND dialog) {
 // down.
 void GetPuzzle(HWND dialog) {
     SetFocus(GetDlgItem(dialog, controlGet));
-    WCHAR link[longestLink + 1];
-    GetWindowTextW(GetDlgItem(dialog, controlLink), link, longestLink + 1);
+    WCHAR link[longestLink + 2];
+    GetWindowTextW(GetDlgItem(dialog, controlLink), link, longestLink + 2);
+    if (!FitsList(link)) {
+        MessageBoxW(dialog, u"This link is too long: a link may have 259 characters.", u"Error",
+                    MB_ICONINFORMATION);
+        return;
+    }
     if (DownloadPuzzle(dialog, link) == 0) {
         return;
     }

@@ -7,6 +7,7 @@
 
 #include "app/view.h"
 #include "dialogs/first_block.h"
+#include "model/file_bytes.h"
 #include "model/path_buffer.h"
 #include "model/puzzle_file.h"
 #include "platform/common_dialogs.h"
@@ -34,10 +35,15 @@ void ShowLastError(HWND dialog, std::u16string_view what) {
 struct ChosenFile {
     WCHAR path[MAX_PATH] = {};
     HANDLE handle = INVALID_HANDLE_VALUE;
-    PuzzleIdentity replaced;  // the puzzle that was there before
+    bool replaces = false;    // a file was there before
+    PuzzleIdentity replaced;  // and the puzzle in it
 
     ChosenFile() = default;
+    // A new file that is not whole is left to the player; an old one stays as it was.
     ~ChosenFile() {
+        if (replaces && handle != INVALID_HANDLE_VALUE) {
+            CancelIo(handle);
+        }
         Close();
     }
     ChosenFile(const ChosenFile&) = delete;
@@ -49,17 +55,31 @@ struct ChosenFile {
 };
 
 bool ChosenFile::Create() {
+    replaces = TimeWritten(path) != 0;
     replaced = IdentityOfFile(path);
     handle =
         CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     return handle != INVALID_HANDLE_VALUE;
 }
 
+// It begins with the path of its puzzle. The state of the game does so, too.
+bool IsRecordOf(const WCHAR* puzzlePath, const WCHAR* path) {
+    constexpr int recordSize = 4096;
+    std::array<char, recordSize + 1> bytes;
+    const int size = ReadFileStart(path, bytes);
+    WCHAR state[MAX_PATH] = {};
+    PathInFolder(ProgramFolder, stateFileName, state);
+    return size == recordSize && NarrowPath(puzzlePath) == bytes.data() &&
+           std::u16string_view(path) != state;
+}
+
 // The letters beside the file belong to the puzzle that they were entered in. They are looked for
 // even where no puzzle was: one may have been deleted and left its letters behind.
-void DeleteProgressOf(const WCHAR* puzzlePath) {
+void DeleteProgressOf(std::u16string_view puzzlePath) {
     WCHAR path[MAX_PATH];
-    if (ProgressFilePath(puzzlePath, path) && std::u16string_view(path) != puzzlePath) {
+    const bool isPuzzle = puzzlePath.ends_with(u".puz") || puzzlePath.ends_with(u".PUZ");
+    if (isPuzzle && ProgressFilePath(puzzlePath.data(), path) &&
+        IsRecordOf(puzzlePath.data(), path)) {
         DeleteFileW(path);
     }
 }
@@ -111,7 +131,7 @@ bool Open(Connection& connection, HWND dialog, const WCHAR* link) {
 }
 
 bool SetUpFile(ChosenFile& file, HWND dialog, std::string_view firstBlock) {
-    if (!IsSquarePuzzle(firstBlock)) {
+    if (!IsSquarePuzzle(firstBlock) || IsWebPage(firstBlock)) {
         ShowError(dialog, u"Not a valid puzzle file, please check the URL.");
         return false;
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 
 #include "model/puzzle.h"
 #include "platform/text.h"
@@ -52,6 +53,15 @@ std::string_view TitleIn(std::string_view block) {
 bool IsSquarePuzzle(std::string_view block) {
     const std::size_t width = ByteAt(block, widthOffset);
     return width != 0 && width == ByteAt(block, heightOffset);
+}
+
+bool IsWebPage(std::string_view block) {
+    block.remove_prefix(std::min(block.find_first_not_of(" \t\r\n"), block.size()));
+    std::string start(block.substr(0, 9));
+    std::transform(start.begin(), start.end(), start.begin(),
+                   [](char each) { return each >= 'A' && each <= 'Z' ? each + 32 : each; });
+    return start.starts_with("<!doctype") || start.starts_with("<html") ||
+           start.starts_with("<?xml");
 }
 
 std::u16string SuggestedName(std::string_view block) {

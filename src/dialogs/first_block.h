@@ -6,6 +6,8 @@
 #include <string_view>
 
 bool IsSquarePuzzle(std::string_view block);
+// By its first tag: its bytes may look like sizes.
+bool IsWebPage(std::string_view block);
 
 // The puzzle's title, made up as a file name: its plain letters and digits, at most ten. Empty when
 // there is no title to be found. Of the block of a square puzzle only.

@@ -61,6 +61,10 @@ std::vector<std::u16string> SplitLinks(std::string_view bytes) {
 
 }  // namespace
 
+bool FitsList(const std::u16string& link) {
+    return link.size() <= longestLink && NarrowPath(link).size() <= longestLinkBytes;
+}
+
 bool ReadLinks(std::vector<std::u16string>& links) {
     WCHAR path[MAX_PATH];
     std::array<char, mostBytes> bytes{};

@@ -7,6 +7,9 @@
 
 constexpr int longestLink = 259;  // characters
 
+// Whether the link can be listed uncut.
+bool FitsList(const std::u16string& link);
+
 // Reads at most the first 4096 bytes of the file. False, with the default link alone, when there is
 // no file to be read.
 bool ReadLinks(std::vector<std::u16string>& links);

@@ -45,6 +45,8 @@ HANDLE CreateFileW(const WCHAR* path, DWORD access, DWORD share, void* security,
 // FALSE on an error; a read at the end of the file is TRUE with 0 bytes.
 BOOL ReadFile(HANDLE file, void* buffer, DWORD size, DWORD* bytesRead, void* overlapped);
 BOOL WriteFile(HANDLE file, const void* buffer, DWORD size, DWORD* bytesWritten, void* overlapped);
+// Gives up what was written: closing the handle then fails, and an old file stays as it was.
+BOOL CancelIo(HANDLE file);
 // FALSE when a written file could not take its place; the handle is gone in any case.
 BOOL CloseHandle(HANDLE file);
 

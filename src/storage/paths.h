@@ -9,6 +9,9 @@
 // The folder of the program file, with its trailing backslash. Written by start-up.
 inline WCHAR ProgramFolder[MAX_PATH];
 
+// In it: the last puzzle, its letters and the settings.
+inline constexpr std::u16string_view stateFileName = u"quadrel.dat";
+
 // Where puzzles are looked for when there is none in play, and where downloads go, which start-up
 // makes. With their trailing backslashes.
 inline constexpr std::u16string_view documentsFolder = u"\\My Documents\\";

@@ -28,7 +28,6 @@
 
 namespace {
 
-constexpr std::u16string_view stateFileName = u"quadrel.dat";
 constexpr const WCHAR* cannotBeSaved =
     u"Your letters cannot be saved: the disk is full, or nothing may be written there. They are "
     u"kept while Quadrel runs; make room, and they will be saved.";

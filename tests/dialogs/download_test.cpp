@@ -181,13 +181,16 @@ TEST_F(Downloads, FailuresAndANoStoreNothing) {
     const std::string refused = WebServer().Link("/a.puz");
     EXPECT_EQ(ToldAbout(refused), Error(u"InternetOpenUrl Error: 2efd"));
     EXPECT_EQ(Told({{Page(puzzle).substr(0, 150)}}), Error(u"InternetReadFile Error: 2eff"));
+    EXPECT_EQ(ToldAbout("http://127.0.0.1/" + std::string(243, 'a')),
+              Error(u"This link is too long: a link may have 259 characters."));
     const QString usual = std::exchange(networkModuleName, "libquadrel_network_missing.so");
     EXPECT_EQ(Told({{Page(puzzle)}}), Error(u"The network cannot be used: 7e"));
     networkModuleName = usual;
     for (const std::string& bytes :
          {"<html><body>The page you asked for is not here, sorry.</body></html>"s,
-          puzzle.substr(0, 45), WithSizes(puzzle, 0, 0), WithSizes(puzzle, 6, 0),
-          WithSizes(puzzle, 0, 6), WithSizes(puzzle, 15, 21)}) {
+          " <!DocType html><title>Not found, sorry</title>"s, puzzle.substr(0, 45),
+          WithSizes(puzzle, 0, 0), WithSizes(puzzle, 6, 0), WithSizes(puzzle, 0, 6),
+          WithSizes(puzzle, 15, 21)}) {
         EXPECT_EQ(Told({{Page(bytes)}}), Error(u"Not a valid puzzle file, please check the URL."));
     }
     EXPECT_TRUE(TakeShownChoosers().empty());
@@ -257,6 +260,9 @@ TEST_F(Downloads, WhatCannotBeWrittenSaysWhy) {
     const std::string longPuzzle = puzzle + std::string(50000, 'n');
     expect(u"InternetReadFile Error: 2eff", Page(longPuzzle).substr(0, 45000), [] {});
     EXPECT_EQ(ReadBytes(file), longPuzzle.substr(0, 32000)) << "what came before the break";
+    expect(u"InternetReadFile Error: 2eff", Page(longPuzzle).substr(0, 45000),
+           [&] { WriteBytes(file, "old"); });
+    EXPECT_EQ(ReadBytes(file), "old");
     std::optional<NoSpace> full;
     expect(u"WriteFile Error: 70", Page(longPuzzle), [&] {
         WriteBytes(file, "old");

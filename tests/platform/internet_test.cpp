@@ -79,6 +79,9 @@ TEST_F(Internet, AnswersArriveWholeOrAreErrorsHoweverTheyAreSent) {
         {"/cut-zip",
          ERROR_INTERNET_CONNECTION_RESET,
          {{PageWithoutLength("").insert(17, gzipped) + bomb.substr(0, 300)}}},
+        {"/two-zips",
+         ERROR_INTERNET_DECODING_FAILED,
+         {{Page(Gzip("a") + Gzip("b"), "200 OK", gzipped)}}},
         {"/no-zip", ERROR_INTERNET_DECODING_FAILED, {{Page("Hello!", "200 OK", gzipped)}}},
         {"/no-http", ERROR_INTERNET_CONNECTION_ABORTED, {{"QUADREL 1.0 HELLO\r\n\r\n"}}},
         {"/hangs-up", ERROR_INTERNET_CONNECTION_ABORTED, {}},
@@ -145,33 +148,35 @@ TEST_F(Internet, SilentServersAreGivenUpAndSlowOnesAreNot) {
     EXPECT_EQ(Fetch(server.Link("/slow")).error, 0u);
 }
 
+// Only Escape and a tap on the sign are heard: both end the wait.
 TEST_F(Internet, WaitingDropsInputAndShowsASignWhenItLasts) {
     server.Put("/silent", {{}, 0, true});
     patienceWithoutSign = 3'600'000;
-    Fetch(server.Link("/silent"), [this] {
+    const Fetched escaped = Fetch(server.Link("/silent"), [this] {
         EXPECT_FALSE(SignIsShown());
         handheld->Press('X');
         handheld->Commit("y");
         handheld->TapCell(2, 2);
         handheld->TapPanel(20, 24);
-        server.HangUp();
+        handheld->Press(Qt::Key_Escape);
     });
+    EXPECT_EQ(escaped.error, ERROR_INTERNET_OPERATION_CANCELLED);
     handheld->Press('Z');
     EXPECT_EQ(PlayerLetters(), "Z---.----");
     patienceWithoutSign = 0;
     longestSilence = 10'000;
     std::vector<QImage> turning;
-    const Fetched fetched = Fetch(server.Link("/silent"), [&] {
+    const Fetched tapped = Fetch(server.Link("/silent"), [&] {
         handheld->Resize(2);
         auto* sign = Host().findChild<BusySign*>();
-        if (SignIsShown() && sign->geometry() == QRect(68, 276, 344, 88)) {
+        if (SignIsShown() && sign->geometry() == QRect(68, 262, 344, 116)) {
             turning.push_back(sign->grab().toImage());
         }
         if (!turning.empty() && turning.front() != turning.back()) {
-            server.HangUp();
+            DragOver(sign, {90, 80}, {90, 80});
         }
     });
-    EXPECT_EQ(fetched.error, ERROR_INTERNET_CONNECTION_ABORTED) << "it does not turn";
+    EXPECT_EQ(tapped.error, ERROR_INTERNET_OPERATION_CANCELLED) << "it does not turn";
 }
 
 }  // namespace

@@ -91,9 +91,3 @@ WebAnswer WebServer::AnswerTo(const std::string& head) {
     return answers.try_emplace(path, WebAnswer{{Page("Nothing is here.", "404 Not Found")}})
         .first->second;
 }
-
-void WebServer::HangUp() {
-    for (auto* socket : server->findChildren<QTcpSocket*>()) {
-        socket->abort();
-    }
-}

@@ -40,8 +40,6 @@ public:
     const std::vector<std::string>& Requests() const {
         return requests;
     }
-    // Ends all connections.
-    void HangUp();
 
 private:
     void Receive(QTcpSocket* socket);

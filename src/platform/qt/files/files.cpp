@@ -158,6 +158,11 @@ BOOL WriteFile(HANDLE file, const void* buffer, DWORD size, DWORD* bytesWritten,
     return file->writeError == 0 ? TRUE : Fail(file->writeError);
 }
 
+BOOL CancelIo(HANDLE file) {
+    file->writeError = ERROR_OPERATION_ABORTED;
+    return TRUE;
+}
+
 BOOL CloseHandle(HANDLE file) {
     if (file == INVALID_HANDLE_VALUE) {
         return Fail(ERROR_INVALID_HANDLE);

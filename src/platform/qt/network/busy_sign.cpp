@@ -16,7 +16,7 @@ constexpr int dots = 8;
 
 // On the handheld's screen, in logical pixels.
 constexpr int signWidth = 172;
-constexpr int signHeight = 44;
+constexpr int signHeight = 58;
 constexpr RECT signArea{(screenWidth - signWidth) / 2, (screenHeight - signHeight) / 2,
                         (screenWidth + signWidth) / 2, (screenHeight + signHeight) / 2};
 
@@ -28,6 +28,7 @@ constexpr double ringRadius = 9;
 constexpr double dotRadius = 2;
 constexpr QRectF titlePlace(46, 6, signWidth - 50, 16);
 constexpr QRectF wordsPlace(46, 22, signWidth - 50, 16);
+constexpr QRectF advicePlace(46, 37, signWidth - 50, 16);
 constexpr double titleSize = 12;
 constexpr double wordsSize = 11;
 
@@ -99,6 +100,8 @@ void BusySign::PaintWords(QPainter& painter) const {
     painter.drawText(titlePlace, Qt::AlignLeft | Qt::AlignVCenter, "Downloading");
     painter.setFont(TextFont(wordsSize, false));
     painter.drawText(wordsPlace, Qt::AlignLeft | Qt::AlignVCenter, Words());
+    painter.setPen(titleBarColor);
+    painter.drawText(advicePlace, Qt::AlignLeft | Qt::AlignVCenter, "Tap here to stop");
 }
 
 QString BusySign::Words() const {

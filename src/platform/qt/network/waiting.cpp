@@ -26,16 +26,30 @@ bool IsInput(const QEvent& event) {
     }
 }
 
+bool IsEscape(const QEvent& event) {
+    return event.type() == QEvent::KeyPress &&
+           static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
 // What the toolkit would only hold back reaches the program afterwards, when the player has long
-// given up tapping; so it is dropped.
+// given up tapping; so it is dropped. Escape and a tap on the sign end the wait.
 class InputDropper : public QObject {
 public:
-    InputDropper() {
+    explicit InputDropper(const BusySign& shown) : sign(shown) {
         QCoreApplication::instance()->installEventFilter(this);
     }
-    bool eventFilter(QObject*, QEvent* event) override {
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const bool tapsSign = object == &sign && event->type() == QEvent::MouseButtonRelease;
+        stopAsked = stopAsked || tapsSign || IsEscape(*event);
         return IsInput(*event);
     }
+    bool StopAsked() const {
+        return stopAsked;
+    }
+
+private:
+    const BusySign& sign;
+    bool stopAsked = false;
 };
 
 class ShownSign {
@@ -74,8 +88,8 @@ private:
     int heard = 0;
 };
 
-DWORD ReasonToGiveUp(Silence& silence) {
-    if (EndingAsked()) {
+DWORD ReasonToGiveUp(const InputDropper& dropper, Silence& silence) {
+    if (EndingAsked() || dropper.StopAsked()) {
         return ERROR_INTERNET_OPERATION_CANCELLED;
     }
     return silence.TooLong() ? ERROR_INTERNET_TIMEOUT : 0;
@@ -85,11 +99,11 @@ DWORD ReasonToGiveUp(Silence& silence) {
 
 DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
                     const std::function<bool()>& condition) {
-    const InputDropper dropper;
+    const InputDropper dropper(sign);
     const ShownSign shown(sign);
     Silence silence(transfer);
     while (!transfer.Ended() && !condition()) {
-        const DWORD error = ReasonToGiveUp(silence);
+        const DWORD error = ReasonToGiveUp(dropper, silence);
         if (error != 0) {
             waitWasGivenUp = true;
             return error;

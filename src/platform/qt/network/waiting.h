@@ -16,6 +16,7 @@ inline int longestSilence = 30'000;  // milliseconds
 inline bool waitWasGivenUp = false;
 
 // Keeps the window alive, and shows the sign, until the condition holds or the transfer has ended;
-// input is dropped meanwhile. 0, or ERROR_INTERNET_TIMEOUT or ERROR_INTERNET_OPERATION_CANCELLED.
+// input is dropped meanwhile, but Escape and a tap on the sign end the wait. 0, or
+// ERROR_INTERNET_TIMEOUT or ERROR_INTERNET_OPERATION_CANCELLED.
 DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
                     const std::function<bool()>& condition);

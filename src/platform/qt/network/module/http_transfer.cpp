@@ -21,6 +21,7 @@
 namespace {
 
 constexpr int mostRedirections = 10;
+constexpr qint64 mostHeldByTheStack = 65536;
 
 DWORD ErrorOfAddress(const QUrl& address) {
     if (address.isEmpty() || !address.isValid()) {
@@ -103,6 +104,7 @@ public:
 private:
     void Start(const QUrl& address) {
         reply.reset(manager.get(MakeRequest(address, agent)));
+        reply->setReadBufferSize(mostHeldByTheStack);
         QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, [this] { TakeHead(); });
         QObject::connect(reply.get(), &QNetworkReply::readyRead, [this] { TakeContent(); });
         QObject::connect(reply.get(), &QNetworkReply::finished, [this] { Finish(); });

@@ -15,13 +15,16 @@ Unpacker::~Unpacker() {
 }
 
 bool Unpacker::Unpack(QByteArray packed, QByteArray& content, std::size_t limit) {
+    if (complete && !packed.isEmpty()) {
+        return false;
+    }
     stream.next_in = reinterpret_cast<Bytef*>(packed.data());
     stream.avail_in = static_cast<uInt>(packed.size());
     Bytef buffer[16384];
     do {
         stream.next_out = buffer;
         stream.avail_out = sizeof buffer;
-        const int result = complete ? Z_STREAM_END : inflate(&stream, Z_NO_FLUSH);
+        const int result = inflate(&stream, Z_NO_FLUSH);
         if (result != Z_OK && result != Z_STREAM_END && result != Z_BUF_ERROR) {
             return false;
         }
@@ -30,5 +33,5 @@ bool Unpacker::Unpack(QByteArray packed, QByteArray& content, std::size_t limit)
                        static_cast<qsizetype>(sizeof buffer - stream.avail_out));
     } while (!complete && stream.avail_out == 0 &&
              static_cast<std::size_t>(content.size()) <= limit);
-    return true;
+    return !complete || stream.avail_in == 0;
 }

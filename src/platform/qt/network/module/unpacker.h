@@ -17,7 +17,7 @@ public:
     Unpacker& operator=(const Unpacker&) = delete;
 
     // Appends what the packed bytes hold, until the content is longer than the limit. False when
-    // they are broken.
+    // they are broken or go on behind the end of the packed stream.
     bool Unpack(QByteArray packed, QByteArray& content, std::size_t limit);
     // Whether the end of the packed stream was seen, with its checksum.
     bool IsComplete() const {
