@@ -31,6 +31,16 @@ bool IsEscape(const QEvent& event) {
            static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
 }
 
+// The host's window has it before any widget does.
+bool IsTapOn(const QWidget& widget, const QEvent& event) {
+    if (event.type() != QEvent::MouseButtonRelease && event.type() != QEvent::TouchEnd) {
+        return false;
+    }
+    const QPointF place =
+        static_cast<const QPointerEvent&>(event).points().constFirst().globalPosition();
+    return widget.isVisible() && widget.rect().contains(widget.mapFromGlobal(place).toPoint());
+}
+
 // What the toolkit would only hold back reaches the program afterwards, when the player has long
 // given up tapping; so it is dropped. Escape and a tap on the sign end the wait.
 class InputDropper : public QObject {
@@ -38,9 +48,8 @@ public:
     explicit InputDropper(const BusySign& shown) : sign(shown) {
         QCoreApplication::instance()->installEventFilter(this);
     }
-    bool eventFilter(QObject* object, QEvent* event) override {
-        const bool tapsSign = object == &sign && event->type() == QEvent::MouseButtonRelease;
-        stopAsked = stopAsked || tapsSign || IsEscape(*event);
+    bool eventFilter(QObject*, QEvent* event) override {
+        stopAsked = stopAsked || IsTapOn(sign, *event) || IsEscape(*event);
         return IsInput(*event);
     }
     bool StopAsked() const {
