@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
 
-#include <QtCore/QTimer>
 
-#include "platform/qt/host/host_window.h"
 #include "support/played_board.h"
 
 namespace {

@@ -3,12 +3,9 @@
 // same selection and settings, and show the same picture; the files they leave are the same too.
 //
 // QUADREL_MONKEY_STEPS says how many steps a board, QUADREL_MONKEY_SEED where the chances start.
-#include <gtest/gtest.h>
 
 #include <optional>
-#include <random>
 
-#include "platform/dialogs.h"
 #include "support/menus.h"
 #include "support/plain_game.h"
 #include "support/played_board.h"

@@ -1,17 +1,9 @@
 // Sessions from start to end with what they say and the files they leave.
-#include <gtest/gtest.h>
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QPointer>
-#include <QtWidgets/QApplication>
 #include <optional>
 
 #include "platform/files.h"
-#include "platform/qt/host/host_window.h"
-#include "platform/windows.h"
-#include "resources/ids.h"
 #include "storage/paths.h"
-#include "support/looks.h"
 #include "support/menus.h"
 #include "support/no_space.h"
 #include "support/plain_record.h"

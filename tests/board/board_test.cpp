@@ -1,11 +1,7 @@
 // What the plain game does not tell: shapes in device pixels, and a player's grid that disagrees
 // with the solution.
-#include <gtest/gtest.h>
-
-#include <sstream>
 
 #include "board/hints.h"
-#include "support/looks.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 

@@ -1,12 +1,7 @@
 #include "dialogs/about.h"
 
-#include <QtTest/QTest>
-
 #include "dialogs/about_drawing.h"
-#include "platform/qt/window/window.h"
-#include "resources/ids.h"
 #include "support/dialogs.h"
-#include "support/looks.h"
 #include "support/opened_pages.h"
 #include "support/played_board.h"
 

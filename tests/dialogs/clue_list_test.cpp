@@ -1,9 +1,5 @@
-#include <QtWidgets/QListWidget>
 #include <QtWidgets/QScrollBar>
 
-#include "app/view.h"
-#include "platform/dialogs.h"
-#include "resources/ids.h"
 #include "support/dialogs.h"
 #include "support/played_board.h"
 

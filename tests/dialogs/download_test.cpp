@@ -1,14 +1,9 @@
 // The download dialog, its list of links, and what becomes of what is downloaded.
-#include <QtCore/QTimer>
-#include <QtWidgets/QLineEdit>
 #include <optional>
 
-#include "platform/dialogs.h"
-#include "platform/qt/host/host_window.h"
 #include "platform/qt/network/network_module.h"
 #include "platform/qt/network/waiting.h"
 #include "platform/qt/window/end_request.h"
-#include "resources/ids.h"
 #include "storage/paths.h"
 #include "support/dialogs.h"
 #include "support/no_space.h"

@@ -1,12 +1,6 @@
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTabBar>
 
 #include "keyboard/keyboard_visibility.h"
-#include "platform/qt/host/host_window.h"
-#include "resources/ids.h"
 #include "support/dialogs.h"
-#include "support/looks.h"
-#include "support/menus.h"
 #include "support/played_board.h"
 
 namespace {
@@ -30,9 +24,8 @@ protected:
 TEST_P(EveryDialog, LeavesTheScreenAsItWasWhicheverWayItCloses) {
     const auto& [title, button, item, command, okButton] = GetParam();
     const auto open = [&] {
-        EXPECT_TRUE(item == nullptr
-                        ? handheld->PressButton(button)
-                        : ChooseFromBar(*handheld, button, QString(item).split('/')));
+        EXPECT_TRUE(item == nullptr ? handheld->PressButton(button)
+                                    : ChooseFromBar(*handheld, button, QString(item).split('/')));
     };
     const std::function<void(OpenDialog&)> ways[] = {
         [&](OpenDialog& dialog) { dialog.Tap(okButton); },

@@ -1,10 +1,6 @@
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QColorDialog>
 
 #include "dialogs/board_colors.h"
-#include "resources/ids.h"
 #include "support/dialogs.h"
-#include "support/menus.h"
 #include "support/played_board.h"
 
 namespace {

@@ -1,9 +1,5 @@
-#include <gtest/gtest.h>
 
-#include <QtCore/QEvent>
-#include <QtWidgets/QWidget>
 
-#include "platform/qt/window/window.h"
 #include "support/plain_game.h"
 #include "support/played_board.h"
 

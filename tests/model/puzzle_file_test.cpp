@@ -1,7 +1,5 @@
 #include "model/puzzle_file.h"
 
-#include <gtest/gtest.h>
-
 #include <cstring>
 
 #include "model/puzzle_parser.h"

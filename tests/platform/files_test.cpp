@@ -3,7 +3,6 @@
 #include "platform/errors.h"
 #include "platform/qt/files/device_paths.h"
 #include "platform/qt/files/litter.h"
-#include "platform/text.h"
 #include "storage/paths.h"
 #include "support/no_space.h"
 #include "support/played_board.h"

@@ -1,15 +1,11 @@
 #include "platform/internet.h"
 
 #include <QtCore/QScopedValueRollback>
-#include <QtCore/QTimer>
 #include <QtTest/QTest>
-#include <random>
 
 #include "platform/errors.h"
-#include "platform/qt/host/host_window.h"
 #include "platform/qt/network/busy_sign.h"
 #include "platform/qt/network/waiting.h"
-#include "platform/text.h"
 #include "support/played_board.h"
 #include "support/web_server.h"
 

@@ -2,11 +2,9 @@
 
 #include <QtCore/QDeadlineTimer>
 #include <QtGui/QTextBlock>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QTextBrowser>
 
 #include "platform/qt/help/help_window.h"
-#include "platform/qt/window/window.h"
 #include "support/menus.h"
 #include "support/opened_pages.h"
 #include "support/played_board.h"

@@ -2,20 +2,13 @@
 // - popups, boxes, windows and the guard against taps that were meant for something else.
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QThread>
-#include <QtCore/QTimer>
 #include <QtGui/QHelpEvent>
-#include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QToolTip>
 
-#include "platform/qt/common/screen_geometry.h"
-#include "platform/qt/host/host_window.h"
 #include "platform/qt/input/hold_cue.h"
 #include "platform/qt/input/tap_guard.h"
 #include "platform/qt/screen/bar_button.h"
-#include "platform/qt/window/window.h"
-#include "support/looks.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 

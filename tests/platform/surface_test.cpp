@@ -1,16 +1,10 @@
 // A surface renders late, only what changed, and forgets what is hidden. All of that must never
 // show: against a picture that draws every mark at once and forgets nothing. What a text mark shows
 // is in pictures.
-#include "platform/qt/surface/surface.h"
-
-#include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <random>
-#include <sstream>
 
-#include "platform/drawing.h"
 #include "platform/qt/surface/mark_painter.h"
 #include "support/handheld.h"
 #include "support/looks.h"

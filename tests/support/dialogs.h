@@ -1,29 +1,11 @@
 // Using the program's dialogs through their real controls, as a person does.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QtGui/QImage>
-#include <QtTest/QTest>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QTabBar>
-#include <QtWidgets/QWidget>
-#include <functional>
-#include <string>
-#include <vector>
 
-#include "app/view.h"
-#include "platform/dialogs.h"
-#include "platform/qt/common/screen_geometry.h"
-#include "platform/qt/host/host_window.h"
 #include "platform/qt/screen/title_bar.h"
-#include "platform/qt/window/window.h"
-#include "support/handheld.h"
 #include "support/menus.h"
-#include "support/message_boxes.h"
 
 // The dialog that is open.
 class OpenDialog {

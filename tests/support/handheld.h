@@ -8,7 +8,6 @@
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QAbstractButton>
-#include <string>
 
 #include "app/view.h"
 #include "app/win_main.h"

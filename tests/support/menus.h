@@ -3,10 +3,7 @@
 
 #include <QtCore/QStringList>
 #include <QtTest/QTest>
-#include <QtWidgets/QMenu>
-#include <map>
 
-#include "platform/qt/host/host_window.h"
 #include "support/handheld.h"
 #include "support/message_boxes.h"
 

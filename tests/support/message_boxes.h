@@ -20,7 +20,6 @@
 #include <functional>
 #include <iosfwd>
 #include <ostream>
-#include <string>
 #include <utility>
 #include <vector>
 

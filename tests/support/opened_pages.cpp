@@ -1,6 +1,5 @@
 #include "support/opened_pages.h"
 
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QTextBrowser>
 
 #include "platform/qt/help/help_window.h"

@@ -3,16 +3,6 @@
 // program.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <map>
-#include <memory>
-#include <string>
-
-#include "app/view.h"
-#include "platform/drawing.h"
-#include "platform/qt/surface/drawing_objects.h"
-#include "platform/qt/surface/surface.h"
 #include "play/settings.h"
 #include "support/handheld.h"
 #include "support/plain_record.h"

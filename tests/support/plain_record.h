@@ -1,8 +1,6 @@
 // A record of progress, written with a pencil.
 #pragma once
 
-#include <string>
-
 #include "platform/types.h"
 #include "support/boards.h"
 

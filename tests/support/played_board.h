@@ -1,22 +1,12 @@
 // A running program with a board of the test's choice in play.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-
 #include "app/layout.h"
 #include "app/repaint.h"
-#include "app/view.h"
-#include "model/puzzle.h"
-#include "model/selection.h"
-#include "platform/dialogs.h"
 #include "play/settings.h"
 #include "support/boards.h"
 #include "support/handheld.h"
 #include "support/message_boxes.h"
-#include "support/temporary_home.h"
 
 // Neither symmetric nor square, with words that end at the right and at the bottom edge; N has no
 // across word, and I no down word.

@@ -5,7 +5,6 @@
 #include <QtNetwork/QSslKey>
 #include <QtNetwork/QSslServer>
 #include <QtNetwork/QTcpSocket>
-#include <stdexcept>
 
 #include "support/temporary_home.h"
 

@@ -5,9 +5,6 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include <cstdlib>
-#include <random>
-
 #include "support/boards.h"
 #include "support/temporary_home.h"
 #include "tools/puzzle_text.h"
