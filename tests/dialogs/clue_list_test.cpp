@@ -1,18 +1,14 @@
 #include <QtWidgets/QScrollBar>
 
 #include "support/dialogs.h"
-#include "support/played_board.h"
 
 namespace {
 
-class ClueList : public PlayedBoard {
+class ClueList : public DialogTest {
 protected:
     void Start(const BoardRows& rows) {
         Play(rows, smallSize);
         SelectCell(1, 1, 0);
-    }
-    void Use(const std::function<void(OpenDialog&)>& use) {
-        UseDialog(*handheld, commandClueList, use);
     }
     void ExpectSelection(int row, int col, int direction) {
         EXPECT_EQ(std::tuple(CursorRow, CursorCol, Direction), std::tuple(row, col, direction));
@@ -54,7 +50,7 @@ TEST_F(ClueList, EveryLineOfBothTabsStandsForItsWord) {
     for (int tab : {0, 1}) {
         for (std::size_t line = 0; line < tabs[tab].size(); ++line) {
             const ClueLine& expected = tabs[tab][line];
-            Use([&](OpenDialog& dialog) {
+            Use(commandClueList, [&](OpenDialog& dialog) {
                 EXPECT_EQ(dialog.Lines(controlClues).size(), tabs[0].size());
                 dialog.Press(Qt::Key_Down);
                 dialog.TapTab(controlClueTabs, tab);
@@ -75,7 +71,7 @@ TEST_F(ClueList, EveryLineOfBothTabsStandsForItsWord) {
 TEST_F(ClueList, KeysGoAlongTheLinesAndEnterOrSpaceTakesOne) {
     Start(BoardRows(12, "ABCDE.GHIJKL"));
     for (int key : {int(Qt::Key_Return), int(Qt::Key_Space)}) {
-        Use([&](OpenDialog& dialog) {
+        Use(commandClueList, [&](OpenDialog& dialog) {
             EXPECT_EQ(dialog.SelectedLine(controlClues), -1);
             EXPECT_TRUE(dialog.HasFocus(controlClues));
             auto* list = dialog.Find<QListWidget>(controlClues);
@@ -102,7 +98,7 @@ TEST_F(ClueList, KeysGoAlongTheLinesAndEnterOrSpaceTakesOne) {
 
 TEST_F(ClueList, ClosingOrLiftingTheStylusElsewhereChoosesNothing) {
     Start(BoardRows(30, "ABC"));
-    Use([](OpenDialog& dialog) {
+    Use(commandClueList, [](OpenDialog& dialog) {
         QWidget* view = dialog.Find<QListWidget>(controlClues)->viewport();
         const double middle = view->height() / 2.0;
         for (QPointF place : {QPointF(9, view->height() + 5), QPointF(-5, middle),
@@ -113,12 +109,12 @@ TEST_F(ClueList, ClosingOrLiftingTheStylusElsewhereChoosesNothing) {
         dialog.Tap(commandClose);
         EXPECT_FALSE(dialog.IsOpen());
     });
-    Use([](OpenDialog& dialog) {
+    Use(commandClueList, [](OpenDialog& dialog) {
         dialog.Press(Qt::Key_Return);
         EXPECT_FALSE(dialog.IsOpen()) << "nothing is selected";
     });
     Start({"A.", ".B"});
-    Use([](OpenDialog& dialog) {
+    Use(commandClueList, [](OpenDialog& dialog) {
         EXPECT_TRUE(dialog.Lines(controlClues).empty());
         dialog.Tap(controlClues);
         dialog.TapTab(controlClueTabs, 1);

@@ -7,7 +7,6 @@
 #include "storage/paths.h"
 #include "support/dialogs.h"
 #include "support/no_space.h"
-#include "support/played_board.h"
 #include "support/web_server.h"
 
 namespace {
@@ -38,7 +37,7 @@ std::string WithSizes(std::string puzzle, int width, int height) {
     return puzzle;
 }
 
-class Downloads : public PlayedBoard {
+class Downloads : public DialogTest {
 protected:
     Downloads() {
         fs::create_directories(folder);
@@ -48,14 +47,11 @@ protected:
         ForgetPlans();
         TakeShownChoosers();
     }
-    void Use(const std::function<void(OpenDialog&)>& use) {
-        UseDialog(*handheld, commandDownload, use);
-    }
     // What the player is told about that link, which is listed from then on when all went well.
     Messages ToldAbout(const std::string& link) {
         TakeShownMessages();
         bool listed = false;
-        Use([&](OpenDialog& dialog) {
+        Use(commandDownload, [&](OpenDialog& dialog) {
             dialog.Type(controlLink, QString::fromStdString(link));
             dialog.Tap(controlGet);
             listed = dialog.IsOpen() && dialog.Lines(controlLinks).back() == link;
@@ -105,12 +101,13 @@ protected:
 };
 
 TEST_F(Downloads, OnlyOkKeepsTheLinksAsTheyAreShown) {
-    Use([](OpenDialog& dialog) { EXPECT_EQ(dialog.Lines(controlLinks), Links{defaultLink}); });
+    Use(commandDownload,
+        [](OpenDialog& dialog) { EXPECT_EQ(dialog.Lines(controlLinks), Links{defaultLink}); });
     EXPECT_FALSE(fs::exists(linkFile)) << "the title bar's OK keeps nothing";
     const Links links = {"http://b.example/caf\xC3\xA9.puz", "http://a.example/1.puz", "x"};
     WriteBytes(linkFile, Listed(links));
     for (const bool keep : {false, true}) {
-        Use([&](OpenDialog& dialog) {
+        Use(commandDownload, [&](OpenDialog& dialog) {
             EXPECT_EQ(dialog.Lines(controlLinks), links);
             dialog.Tap(controlDeleteLink);
             EXPECT_EQ(TakeShownMessages(), Messages()) << "nothing is selected";
@@ -131,7 +128,7 @@ TEST_F(Downloads, OnlyOkKeepsTheLinksAsTheyAreShown) {
 TEST_F(Downloads, AChosenOrANewLinkIsEditedWithTheInputPanelUpAndListedOnce) {
     server.Put("/A.PUZ", {{Page(puzzle)}});
     server.Put("/a.puz", {{Page(puzzle)}});
-    Use([&](OpenDialog& dialog) {
+    Use(commandDownload, [&](OpenDialog& dialog) {
         EXPECT_FALSE(Host().PanelUp());
         dialog.TapLine(controlLinks, 0);
         auto* edit = dialog.Find<QLineEdit>(controlLink);

@@ -13,12 +13,7 @@ struct KnownDialog {
     int okButton;
 };
 
-class EveryDialog : public PlayedBoard, public testing::WithParamInterface<KnownDialog> {
-protected:
-    void Use(const std::function<void(OpenDialog&)>& use) {
-        UseDialog(*handheld, GetParam().command, use);
-    }
-};
+class EveryDialog : public DialogTest, public testing::WithParamInterface<KnownDialog> {};
 
 // Only the preferences bring the highlight back.
 TEST_P(EveryDialog, LeavesTheScreenAsItWasWhicheverWayItCloses) {
@@ -94,7 +89,7 @@ void ExpectTidy(const QWidget& dialog) {
 }
 
 TEST_P(EveryDialog, IsTidyAndLooksTheSameOnEveryScreen) {
-    Use([this](OpenDialog& dialog) {
+    Use(GetParam().command, [this](OpenDialog& dialog) {
         dialog.TapAt(2, 2);  // the end of the show that About is
         const QImage small = handheld->Screen();
         ExpectLooksAsRecorded(small, GetParam().title);
@@ -115,12 +110,12 @@ TEST_P(EveryDialog, IsTidyAndLooksTheSameOnEveryScreen) {
 
 TEST_P(EveryDialog, ClosesWithTheProgramWhichSavesItsState) {
     std::filesystem::remove(home.stateFile());
-    Use([](OpenDialog&) { Host().close(); });
+    Use(GetParam().command, [](OpenDialog&) { Host().close(); });
     EXPECT_FALSE(handheld->Running());
     EXPECT_TRUE(std::filesystem::exists(home.stateFile()));
 }
 
-class Looks : public PlayedBoard {};
+using Looks = PlayedBoard;
 
 TEST_F(Looks, OfTheScreenAMenuAndABoxAreAsRecorded) {
     Play(squareBoard, mediumSize);

@@ -1,16 +1,10 @@
 
 #include "dialogs/board_colors.h"
 #include "support/dialogs.h"
-#include "support/played_board.h"
 
 namespace {
 
-class Preferences : public PlayedBoard {
-protected:
-    void Use(const std::function<void(OpenDialog&)>& use) {
-        UseDialog(*handheld, commandPreferences, use);
-    }
-};
+using Preferences = DialogTest;
 
 using Settings = std::vector<int>;
 
@@ -33,7 +27,7 @@ TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
     };
     for (const auto& change : changes) {
         const Settings before = Taken();
-        Use([&](OpenDialog& dialog) {
+        Use(commandPreferences, [&](OpenDialog& dialog) {
             Settings shown;
             for (int control : settingControls) {
                 shown.push_back(dialog.Find<QAbstractButton>(control)->isChecked());
@@ -47,7 +41,7 @@ TEST_F(Preferences, EachSettingAloneIsTakenByOkOnly) {
         ExpectFullRepaint();
     }
     EXPECT_TRUE(ChecksOf(*handheld, "Main Menu")["Toggle/Numbers"]);
-    Use([](OpenDialog& dialog) {
+    Use(commandPreferences, [](OpenDialog& dialog) {
         EXPECT_TRUE(dialog.Find<QWidget>(controlColorGroup)->font().bold());
         for (int key : {Qt::Key_Right, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
             dialog.Press(key);
@@ -61,7 +55,7 @@ TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
     Play(squareBoard, smallSize);
     constexpr COLORREF green = RGB(10, 120, 30);
     constexpr COLORREF cream = RGB(250, 240, 220);
-    Use([&](OpenDialog& dialog) {
+    Use(commandPreferences, [&](OpenDialog& dialog) {
         CompareNextBox("Color chooser");
         for (const auto& [control, color] :
              {std::pair(controlSquareColor, green), {controlBackgroundColor, cream}}) {

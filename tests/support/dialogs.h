@@ -6,6 +6,7 @@
 
 #include "platform/qt/screen/title_bar.h"
 #include "support/menus.h"
+#include "support/played_board.h"
 
 // The dialog that is open.
 class OpenDialog {
@@ -145,3 +146,10 @@ inline void UseDialog(Handheld& handheld, int command,
     };
     UseDialog(handheld, open, use);
 }
+
+class DialogTest : public PlayedBoard {
+protected:
+    void Use(int command, const std::function<void(OpenDialog&)>& use) {
+        UseDialog(*handheld, command, use);
+    }
+};
