@@ -159,8 +159,7 @@ public:
         ShowView();
     }
 
-    // An item of a menu, like "Fill/Word".
-    // What commands do.
+    // What commands do: an item of a menu, like "Fill/Word".
 
     void Choose(const std::string& item) {
         const std::string menu = item.substr(0, item.find('/'));
@@ -185,8 +184,7 @@ public:
         }
     }
 
-    // True when something is said.
-    // Neither bevels nor a highlight; wrong letters are red.
+    // Neither bevels nor a highlight; wrong letters are red. True when something is said.
     bool Check() {
         bool anyLetter = false;
         bool anyWrong = false;
