@@ -1,7 +1,7 @@
 # The Debian packages that Quadrel needs, and the installing of those that are missing.
 # To be sourced.
 
-build_packages=(cmake ninja-build g++ qt6-base-dev zlib1g-dev)
+build_packages=(cmake ninja-build g++ qt6-base-dev libcurl4-openssl-dev zlib1g-dev)
 # Up to Debian 12 the toolkit's plugin for SVG lies in its library's package.
 svg_plugin=qt6-svg-plugins
 if grep -qsxF VERSION_CODENAME=bookworm /etc/os-release; then

@@ -63,6 +63,10 @@ TEST_F(Internet, AnswersArriveWholeOrAreErrorsHoweverTheyAreSent) {
     const std::string page = Page(content);
     const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n100000\r\n";
     const std::string bomb = Gzip(std::string(50'000'000, '\0'));
+    std::string manyLines;
+    while (manyLines.size() < 65536) {
+        manyLines += "Another: line\r\n";
+    }
     const std::tuple<const char*, DWORD, WebAnswer> answers[] = {
         {"/kept", 0, {{Page(content, "200 OK", "Keep: it\r\n")}, 0, true}},
         {"/no-length", 0, {{PageWithoutLength(content.substr(0, 9)), content.substr(9)}, 5}},
@@ -79,6 +83,10 @@ TEST_F(Internet, AnswersArriveWholeOrAreErrorsHoweverTheyAreSent) {
         {"/two-zips",
          ERROR_INTERNET_DECODING_FAILED,
          {{Page(Gzip("a") + Gzip("b"), "200 OK", gzipped)}}},
+        {"/cut-chunks", ERROR_INTERNET_CONNECTION_RESET, {{chunked, content}, 5}},
+        {"/endless-head",
+         ERROR_HTTP_INVALID_SERVER_RESPONSE,
+         {{"HTTP/1.1 200 OK\r\n" + manyLines}, 0, true}},
         {"/no-zip", ERROR_INTERNET_DECODING_FAILED, {{Page("Hello!", "200 OK", gzipped)}}},
         {"/no-http", ERROR_INTERNET_CONNECTION_ABORTED, {{"QUADREL 1.0 HELLO\r\n\r\n"}}},
         {"/hangs-up", ERROR_INTERNET_CONNECTION_ABORTED, {}},

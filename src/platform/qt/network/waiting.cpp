@@ -114,7 +114,6 @@ DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
     while (!transfer.Ended() && !condition()) {
         const DWORD error = ReasonToGiveUp(dropper, silence);
         if (error != 0) {
-            waitWasGivenUp = true;
             return error;
         }
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);

@@ -11,10 +11,6 @@ class Transfer;
 // A server that says nothing for longer is given up. Tests are less patient.
 inline int longestSilence = 30'000;  // milliseconds
 
-// A name that nobody waits for any more may still be looked up, and the toolkit would hold the end
-// of the process back until the resolver has given up, too. Written by AwaitTransfer.
-inline bool waitWasGivenUp = false;
-
 // Keeps the window alive, and shows the sign, until the condition holds or the transfer has ended;
 // input is dropped meanwhile, but Escape and a tap on the sign end the wait. 0, or
 // ERROR_INTERNET_TIMEOUT or ERROR_INTERNET_OPERATION_CANCELLED.

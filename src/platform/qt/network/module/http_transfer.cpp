@@ -1,27 +1,23 @@
-// Requests on the toolkit's network stack.
+// Requests by libcurl, on the event loop of the program's thread.
 //
-// Redirections are followed here: the stack would do it, but then the heads of all answers on the
-// way get mixed, and a length or encoding may be another answer's.
-//
-// The stack itself does not always notice that a connection breaks too early, so the announced
-// length, or the end of a compressed answer, is looked for here. For an uncompressed answer in
-// chunks there is only what the stack notices.
+// Redirections are followed here, one request for each: so what one server says stays with it.
+// Packed answers are unpacked here, because nothing may be held beyond the limit.
+#include <curl/curl.h>
+
+#include <QtCore/QByteArray>
 #include <QtCore/QUrl>
-#include <QtNetwork/QNetworkAccessManager>
-#include <QtNetwork/QNetworkProxy>
-#include <QtNetwork/QNetworkReply>
-#include <QtNetwork/QSslConfiguration>
 #include <algorithm>
 #include <memory>
 
-#include "platform/qt/network/module/reply_errors.h"
+#include "platform/qt/network/module/curl_loop.h"
 #include "platform/qt/network/module/transfer.h"
+#include "platform/qt/network/module/transfer_errors.h"
 #include "platform/qt/network/module/unpacker.h"
 
 namespace {
 
 constexpr int mostRedirections = 10;
-constexpr qint64 mostHeldByTheStack = 65536;
+constexpr std::size_t longestHeads = 65536;  // of all answers on the way together
 
 DWORD ErrorOfAddress(const QUrl& address) {
     if (address.isEmpty() || !address.isValid()) {
@@ -40,41 +36,23 @@ DWORD ErrorOfRedirection(const QUrl& from, const QUrl& to) {
     return ErrorOfAddress(to) == 0 ? 0 : ERROR_INTERNET_REDIRECT_FAILED;
 }
 
-// The common way to name other certificates to trust than the system's.
-void TrustAsAsked(QNetworkRequest& request) {
-    const QString file = qEnvironmentVariable("SSL_CERT_FILE");
-    if (!file.isEmpty()) {
-        QSslConfiguration configuration = request.sslConfiguration();
-        configuration.setCaCertificates(QSslCertificate::fromPath(file));
-        request.setSslConfiguration(configuration);
-    }
-}
-
-QNetworkRequest MakeRequest(const QUrl& address, const QString& agent) {
-    QNetworkRequest request(address);
-    request.setHeader(QNetworkRequest::UserAgentHeader, agent);
-    request.setRawHeader("Accept-Encoding", "gzip");
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    // One answer on one connection gains nothing from it.
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    TrustAsAsked(request);
-    return request;
-}
-
 class HttpTransfer : public Transfer {
 public:
     explicit HttpTransfer(const TransferRequest& request)
-        : limit(request.limit), agent(QString::fromUtf16(request.agent)) {
-        manager.setProxy(QNetworkProxy::NoProxy);
-        const QUrl address(QString::fromUtf16(request.address).trimmed());
+        : limit(request.limit), address(QString::fromUtf16(request.address).trimmed()) {
         error = ErrorOfAddress(address);
         if (error == 0) {
-            Start(address);
+            SetOptions(QString::fromUtf16(request.agent).toUtf8());
+            Start();
         }
     }
+    ~HttpTransfer() override {
+        loop.Remove(easy);
+        curl_easy_cleanup(easy);
+        curl_slist_free_all(wishes);
+    }
+    HttpTransfer(const HttpTransfer&) = delete;
+    HttpTransfer& operator=(const HttpTransfer&) = delete;
 
     bool Opened() const override {
         return opened;
@@ -102,106 +80,132 @@ public:
     }
 
 private:
-    void Start(const QUrl& address) {
-        reply.reset(manager.get(MakeRequest(address, agent)));
-        reply->setReadBufferSize(mostHeldByTheStack);
-        QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, [this] { TakeHead(); });
-        QObject::connect(reply.get(), &QNetworkReply::readyRead, [this] { TakeContent(); });
-        QObject::connect(reply.get(), &QNetworkReply::finished, [this] { Finish(); });
-        QObject::connect(
-            reply.get(), &QNetworkReply::sslErrors,
-            [this](const QList<QSslError>& errors) { Fail(ErrorOfCertificate(errors)); });
+    void SetOptions(const QByteArray& agent) {
+        wishes = curl_slist_append(nullptr, "Accept-Encoding: gzip");
+        curl_easy_setopt(easy, CURLOPT_HTTPHEADER, wishes);
+        curl_easy_setopt(easy, CURLOPT_USERAGENT, agent.constData());
+        curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "http,https");
+        curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
+        curl_easy_setopt(easy, CURLOPT_PROXY, "");
+        curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+        // Nobody waits for a name that is still looked up when all is over.
+        curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
+        // The common way to name other certificates to trust than the system's.
+        if (const QByteArray trusted = qgetenv("SSL_CERT_FILE"); !trusted.isEmpty()) {
+            curl_easy_setopt(easy, CURLOPT_CAINFO, trusted.constData());
+        }
+        curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, OnHead);
+        curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
+        curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, OnContent);
+        curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
     }
 
-    // Ends the connection: nobody knows how long the program will keep its handle open.
-    void Fail(DWORD reason) {
+    void Start() {
+        curl_easy_setopt(easy, CURLOPT_URL, address.toEncoded().constData());
+        loop.Add(easy, [this](CURLcode code) { Finish(code); });
+    }
+
+    // Both: anything but the size ends the transfer.
+    static std::size_t OnHead(const char* bytes, std::size_t, std::size_t size, void* transfer) {
+        return static_cast<HttpTransfer*>(transfer)->TakeHead({bytes, size}) ? size : 0;
+    }
+    static std::size_t OnContent(const char* bytes, std::size_t, std::size_t size, void* transfer) {
+        return static_cast<HttpTransfer*>(transfer)->TakeContent(bytes, size) ? size : 0;
+    }
+
+    bool Fail(DWORD reason) {
         error = reason;
-        reply->disconnect();
-        reply->abort();
+        return false;
     }
 
-    void TakeHead() {
+    // Line by line, the last one empty.
+    bool TakeHead(std::string_view line) {
         ++signsOfLife;
-        if (opened) {
-            return;
+        heads += line.size();
+        if (heads > longestHeads) {
+            return Fail(ERROR_HTTP_INVALID_SERVER_RESPONSE);
         }
-        const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-        if (!target.isEmpty()) {
-            Follow(reply->url().resolved(target));
-            return;
-        }
-        opened = true;
-        const QByteArray encoding = reply->rawHeader("Content-Encoding").toLower();
-        if (!encoding.isEmpty() && encoding != "identity") {
+        return line != "\r\n" && line != "\n" ? true : EndHead();
+    }
+
+    bool EndHead() {
+        long status = 0;
+        curl_easy_getinfo(easy, CURLINFO_RESPONSE_CODE, &status);
+        redirected = status >= 300 && status < 400 && !Header("Location").isEmpty();
+        opened = status >= 200 && !redirected;
+        const QByteArray encoding = Header("Content-Encoding").toLower();
+        if (opened && !encoding.isEmpty() && encoding != "identity") {
             unpacker = std::make_unique<Unpacker>();
         }
-        if (AnnouncedSize() > limit) {
-            Fail(ERROR_FILE_TOO_LARGE);
-        }
+        curl_off_t announced = 0;
+        curl_easy_getinfo(easy, CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &announced);
+        return !opened || announced <= static_cast<curl_off_t>(limit) || Fail(ERROR_FILE_TOO_LARGE);
     }
 
-    void Follow(const QUrl& target) {
-        const DWORD reason = ++redirections > mostRedirections
-                                 ? ERROR_INTERNET_REDIRECT_FAILED
-                                 : ErrorOfRedirection(reply->url(), target);
-        if (reason != 0) {
-            Fail(reason);
-            return;
-        }
-        reply->disconnect();
-        reply.release()->deleteLater();  // it is what called
-        Start(target);
+    QByteArray Header(const char* name) const {
+        curl_header* header = nullptr;
+        return curl_easy_header(easy, name, 0, CURLH_HEADER, -1, &header) == CURLHE_OK
+                   ? QByteArray(header->value)
+                   : QByteArray();
     }
 
-    // 0 when nothing is announced.
-    std::size_t AnnouncedSize() const {
-        return reply->header(QNetworkRequest::ContentLengthHeader).toULongLong();
-    }
-
-    bool IsCut() const {
-        return arrived < AnnouncedSize() || (unpacker && arrived > 0 && !unpacker->IsComplete());
-    }
-
-    void TakeContent() {
+    // What a redirection says besides is of no use.
+    bool TakeContent(const char* bytes, std::size_t size) {
         ++signsOfLife;
-        const QByteArray bytes = reply->readAll();
-        arrived += static_cast<std::size_t>(bytes.size());
+        if (redirected) {
+            return false;
+        }
+        arrived += size;
+        const QByteArray packed(bytes, static_cast<qsizetype>(size));
         if (!unpacker) {
-            content += bytes;
-        } else if (!unpacker->Unpack(bytes, content, limit)) {
-            Fail(ERROR_INTERNET_DECODING_FAILED);
-            return;
+            content += packed;
+        } else if (!unpacker->Unpack(packed, content, limit)) {
+            return Fail(ERROR_INTERNET_DECODING_FAILED);
         }
-        if (Received() > limit) {
-            Fail(ERROR_FILE_TOO_LARGE);
-        }
+        return Received() <= limit || Fail(ERROR_FILE_TOO_LARGE);
     }
 
-    void Finish() {
-        TakeContent();
+    void Finish(CURLcode code) {
+        loop.Remove(easy);
         if (error != 0) {
             return;
         }
-        const DWORD reason = ErrorOfReply(*reply, opened);
-        if (reason != 0) {
-            Fail(reason);
-        } else if (opened && IsCut()) {
-            Fail(ERROR_INTERNET_CONNECTION_RESET);
+        if (redirected) {
+            Follow();
+        } else if (code != CURLE_OK) {
+            error = ErrorOfTransfer(easy, code, opened);
+        } else if (unpacker && arrived > 0 && !unpacker->IsComplete()) {
+            error = ERROR_INTERNET_CONNECTION_RESET;
+        } else {
+            ended = true;
         }
-        ended = true;
     }
 
-    std::size_t limit;
-    QString agent;
-    QNetworkAccessManager manager;
-    std::unique_ptr<QNetworkReply> reply;
-    std::unique_ptr<Unpacker> unpacker;  // for a compressed answer
-    std::size_t arrived = 0;             // bytes, still compressed
+    void Follow() {
+        const QUrl target = address.resolved(QUrl::fromEncoded(Header("Location").trimmed()));
+        error = ++redirections > mostRedirections ? ERROR_INTERNET_REDIRECT_FAILED
+                                                  : ErrorOfRedirection(address, target);
+        if (error == 0) {
+            address = target;
+            redirected = false;
+            Start();
+        }
+    }
+
+    const std::size_t limit;
+    QUrl address;
+    CURL* easy = curl_easy_init();
+    curl_slist* wishes = nullptr;
+    CurlLoop loop;
+    std::unique_ptr<Unpacker> unpacker;  // for a packed answer
+    std::size_t heads = 0;
+    std::size_t arrived = 0;  // bytes, still packed
     QByteArray content;
     std::size_t taken = 0;
     DWORD error = 0;
     int signsOfLife = 0;
     int redirections = 0;
+    bool redirected = false;
     bool opened = false;
     bool ended = false;
 };
@@ -209,5 +213,7 @@ private:
 }  // namespace
 
 extern "C" Q_DECL_EXPORT Transfer* StartTransfer(const TransferRequest& request) {
+    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
+    Q_UNUSED(ready);
     return new HttpTransfer(request);
 }
