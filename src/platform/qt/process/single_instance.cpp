@@ -2,6 +2,7 @@
 // however it ends, and listens on a socket beside it, in a folder that is closed to everybody else.
 
 #include <fcntl.h>
+#include <sys/eventfd.h>
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -80,13 +81,13 @@ bool IsOfThisUser(int call) {
     return getsockopt(call, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == getuid();
 }
 
-bool TakeLock(const QByteArray& name) {
+void OpenLock(const QByteArray& name) {
+    folder = OpenRuntimeFolder();
     lock = openat(folder, name + ".lock", O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (flock(lock, LOCK_EX | LOCK_NB) == 0) {
-        return ftruncate(lock, 0) == 0;
-    }
-    close(lock);
-    return false;
+}
+
+bool TakeLock() {
+    return flock(lock, LOCK_EX | LOCK_NB) == 0 && ftruncate(lock, 0) == 0;
 }
 
 void Listen(const QByteArray& name) {
@@ -132,9 +133,9 @@ void WatchForCalls() {
 }
 
 // One that is starting still has some time until it answers; one that hangs is not waited for.
-seconds PatienceWith(const QByteArray& name) {
+seconds PatienceWithOther() {
     struct stat status {};
-    const bool answers = fstatat(folder, name + ".lock", &status, 0) == 0 && status.st_size > 0;
+    const bool answers = fstat(lock, &status) == 0 && status.st_size > 0;
     return seconds(answers ? 1 : 10);
 }
 
@@ -152,7 +153,7 @@ char CallOther(const QByteArray& name) {
     char answer = 0;
     if (connect(call, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
         IsOfThisUser(call)) {
-        answer = Receive(call, PatienceWith(name));
+        answer = Receive(call, PatienceWithOther());
         if (answer == isEnding) {
             Receive(call, seconds(10));
         }
@@ -161,26 +162,48 @@ char CallOther(const QByteArray& name) {
     return answer;
 }
 
-// True when this process is now the instance, or nobody can tell; false when another one is, which
-// has come forward to show it. Waits for one that is just ending, so that a start always leaves a
-// window on the screen.
+void BecomeInstance(const QByteArray& name) {
+    Listen(name);
+    WatchForCalls();
+}
+
+// Beside an instance that does not answer, or takes long to end: without it, the next start would
+// find nobody and show another window. The thread only waits, and so wakes nobody up.
+void BecomeInstanceLater(const QByteArray& name) {
+    const int freed = eventfd(0, EFD_CLOEXEC);
+    std::thread([freed] {
+        flock(lock, LOCK_EX);
+        eventfd_write(freed, 1);
+    }).detach();
+    auto* notifier = new QSocketNotifier(freed, QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, [name, notifier] {
+        notifier->setEnabled(false);
+        BecomeInstance(name);
+    });
+}
+
+// True when this process is now the instance, or will be, or nobody can tell; false when another
+// one is, which has come forward to show it. Waits for one that is just ending, so that a start
+// always leaves a window on the screen.
 bool ClaimInstance(const WCHAR* className) {
-    if (listener >= 0) {
+    if (lock >= 0) {
         return true;
     }
-    folder = OpenRuntimeFolder();
     const QByteArray name = InstanceName(className);
+    OpenLock(name);
     const auto start = std::chrono::steady_clock::now();
-    while (folder >= 0 && std::chrono::steady_clock::now() < start + PatienceWith(name)) {
-        if (TakeLock(name)) {
-            Listen(name);
-            WatchForCalls();
+    while (lock >= 0 && std::chrono::steady_clock::now() < start + PatienceWithOther()) {
+        if (TakeLock()) {
+            BecomeInstance(name);
             return true;
         }
         if (CallOther(name) == isHere) {
             return false;
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    if (lock >= 0) {
+        BecomeInstanceLater(name);
     }
     return true;
 }
