@@ -72,13 +72,17 @@ TEST_F(Files, OnlyOldTemporaryFilesOfTheGameAreLitter) {
     for (const auto& [name, litter] : names) {
         for (const auto& folder : {home.documents(), home.programFolder()}) {
             for (int age : {5, 500}) {
-                WriteBytes(folder / name, "x");
+                WriteBytes(folder / name, "\\My Documents\\a.puz");
                 last_write_time(folder / name, now - std::chrono::seconds(age));
                 RemoveLitter();
                 EXPECT_EQ(exists(folder / name), !litter || age == 5) << name;
             }
         }
     }
+    WriteBytes(home.documents() / "a.dat.BackUp", "dear");
+    last_write_time(home.documents() / "a.dat.BackUp", now - std::chrono::hours(1));
+    RemoveLitter();
+    EXPECT_TRUE(exists(home.documents() / "a.dat.BackUp"));
     handheld.reset();
     EXPECT_EQ(status(home.stateFile()).permissions(), std::filesystem::perms(0600));
 }
