@@ -95,10 +95,8 @@ QString NameFilter(const WCHAR* filter) {
     return QString("%1 (%2 %3)").arg(QString::fromUtf16(filter), pattern, pattern.toUpper());
 }
 
-// It chooses and does nothing else: a swipe would drag a puzzle into the folder above it. What a
-// desktop's own chooser does besides, nobody knows.
+// It chooses and does nothing else: a swipe would drag a puzzle into the folder above it.
 void LockFiles(QFileDialog& dialog) {
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setOption(QFileDialog::ReadOnly);
     for (auto* view : dialog.findChildren<QAbstractItemView*>()) {
         view->setDragDropMode(QAbstractItemView::NoDragDrop);
