@@ -57,7 +57,7 @@ std::optional<QString> ToHostPath(std::u16string_view devicePath) {
 }
 
 std::optional<std::u16string> ToDevicePath(const QString& hostPath) {
-    QString path = QDir(hostPath).absolutePath();
+    QString path = QDir::cleanPath(QDir(hostPath).absolutePath());
     if (path.contains('\\')) {
         return std::nullopt;
     }
