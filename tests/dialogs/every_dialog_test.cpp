@@ -110,7 +110,11 @@ TEST_P(EveryDialog, IsTidyAndLooksTheSameOnEveryScreen) {
 
 TEST_P(EveryDialog, ClosesWithTheProgramWhichSavesItsState) {
     std::filesystem::remove(home.stateFile());
-    Use(GetParam().command, [](OpenDialog&) { Host().close(); });
+    Use(GetParam().command, [this](OpenDialog& dialog) {
+        Host().close();
+        handheld->Settle();
+        EXPECT_FALSE(dialog.IsOpen());
+    });
     EXPECT_FALSE(handheld->Running());
     EXPECT_TRUE(std::filesystem::exists(home.stateFile()));
 }
