@@ -181,7 +181,8 @@ bool KeepState() {
         return false;
     }
     WCHAR path[MAX_PATH];
-    const Writing how = missed ? Writing::AtOnce : Writing::BehindThePlayersBack;
+    // A player who was told once is not told again before a write has certainly gone well.
+    const Writing how = missed || playerKnows ? Writing::AtOnce : Writing::BehindThePlayersBack;
     const bool kept = StateFilePath(path) && WriteWholeFile(path, record, how);
     keptRecord = kept ? record : "";
     if (kept || SaveLetters()) {
@@ -189,5 +190,5 @@ bool KeepState() {
     } else if (!std::exchange(playerKnows, true)) {
         MessageBoxW(MainWindow, cannotBeSaved, u"Save", MB_OK | MB_ICONINFORMATION);
     }
-    return kept && !missed;
+    return kept && how == Writing::BehindThePlayersBack;
 }

@@ -256,7 +256,7 @@ TEST_F(Session, TheStateIsKeptWhileItIsPlayedAndAFullDiskIsToldOnce) {
     {
         const NoSpace full;
         handheld->Type("Q");
-        for (int time = 0; time < 3; ++time) {
+        for (int time = 0; time < 6; ++time) {
             keep();
         }
         EXPECT_EQ(TakeShownMessages().size(), 1u);
