@@ -63,6 +63,10 @@ TEST_F(Internet, AnswersArriveWholeOrAreErrorsHoweverTheyAreSent) {
     const std::string page = Page(content);
     const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n100000\r\n";
     const std::string bomb = Gzip(std::string(50'000'000, '\0'));
+    std::string emptyBlocks;
+    while (emptyBlocks.size() <= content.size()) {
+        emptyBlocks.append("\0\0\0\xFF\xFF", 5);
+    }
     std::string manyLines;
     while (manyLines.size() < 65536) {
         manyLines += "Another: line\r\n";
@@ -83,6 +87,9 @@ TEST_F(Internet, AnswersArriveWholeOrAreErrorsHoweverTheyAreSent) {
         {"/two-zips",
          ERROR_INTERNET_DECODING_FAILED,
          {{Page(Gzip("a") + Gzip("b"), "200 OK", gzipped)}}},
+        {"/hollow-zip",
+         ERROR_FILE_TOO_LARGE,
+         {{PageWithoutLength("").insert(17, gzipped) + bomb.substr(0, 10) + emptyBlocks}}},
         {"/cut-chunks", ERROR_INTERNET_CONNECTION_RESET, {{chunked, content}, 5}},
         {"/endless-head",
          ERROR_HTTP_INVALID_SERVER_RESPONSE,

@@ -97,11 +97,8 @@ private:
     int heard = 0;
 };
 
-DWORD ReasonToGiveUp(const InputDropper& dropper, Silence& silence) {
-    if (EndingAsked() || dropper.StopAsked()) {
-        return ERROR_INTERNET_OPERATION_CANCELLED;
-    }
-    return silence.TooLong() ? ERROR_INTERNET_TIMEOUT : 0;
+DWORD ReasonToStop(const InputDropper& dropper) {
+    return EndingAsked() || dropper.StopAsked() ? ERROR_INTERNET_OPERATION_CANCELLED : 0;
 }
 
 }  // namespace
@@ -111,13 +108,12 @@ DWORD AwaitTransfer(const Transfer& transfer, BusySign& sign,
     const InputDropper dropper(sign);
     const ShownSign shown(sign);
     Silence silence(transfer);
-    while (!transfer.Ended() && !condition()) {
-        const DWORD error = ReasonToGiveUp(dropper, silence);
-        if (error != 0) {
-            return error;
+    while (!transfer.Ended() && !condition() && ReasonToStop(dropper) == 0) {
+        if (silence.TooLong()) {
+            return ERROR_INTERNET_TIMEOUT;
         }
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         sign.SetAmount(transfer.Received());
     }
-    return EndingAsked() ? ERROR_INTERNET_OPERATION_CANCELLED : 0;
+    return ReasonToStop(dropper);
 }

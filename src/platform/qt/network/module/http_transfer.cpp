@@ -42,6 +42,8 @@ public:
         : limit(request.limit), address(QString::fromUtf16(request.address).trimmed()) {
         error = ErrorOfAddress(address);
         if (error == 0) {
+            // Else it would be held twice while it grows.
+            content.reserve(static_cast<qsizetype>(limit + CURL_MAX_WRITE_SIZE));
             SetOptions(QString::fromUtf16(request.agent).toUtf8());
             Start();
         }
@@ -162,7 +164,7 @@ private:
         } else if (!unpacker->Unpack(packed, content, limit)) {
             return Fail(ERROR_INTERNET_DECODING_FAILED);
         }
-        return Received() <= limit || Fail(ERROR_FILE_TOO_LARGE);
+        return std::max(arrived, Received()) <= limit || Fail(ERROR_FILE_TOO_LARGE);
     }
 
     void Finish(CURLcode code) {

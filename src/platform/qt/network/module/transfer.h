@@ -1,8 +1,7 @@
 // One request to a web server, as the platform sees it.
 //
-// What stands behind it is a module that is loaded with the first request: its network
-// library would take a noticeable part of every start of the program, and most starts download
-// nothing.
+// What stands behind it is a module that is loaded with the first request: its network library
+// would take a noticeable part of every start of the program, and most starts download nothing.
 #pragma once
 
 #include <cstddef>

@@ -1,7 +1,7 @@
 // Unpacking of compressed answers while they arrive.
 //
-// The toolkit would do it, too, but forgets the announced length over it: a connection cut in the
-// middle would look like the end.
+// The transfer library would do it, too, but hands over all that a few packed bytes hold, and takes
+// several streams for one.
 #pragma once
 
 #include <zlib.h>
