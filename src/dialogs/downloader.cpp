@@ -73,14 +73,18 @@ bool IsRecordOf(const WCHAR* puzzlePath, const WCHAR* path) {
            std::u16string_view(path) != state;
 }
 
-// The letters beside the file belong to the puzzle that they were entered in. They are looked for
-// even where no puzzle was: one may have been deleted and left its letters behind.
-void DeleteProgressOf(std::u16string_view puzzlePath) {
-    WCHAR path[MAX_PATH];
-    const bool isPuzzle = puzzlePath.ends_with(u".puz") || puzzlePath.ends_with(u".PUZ");
-    if (isPuzzle && ProgressFilePath(puzzlePath.data(), path) &&
-        IsRecordOf(puzzlePath.data(), path)) {
-        DeleteFileW(path);
+bool IsPuzzleName(std::u16string_view path) {
+    return path.ends_with(u".puz") || path.ends_with(u".PUZ");
+}
+
+// Letters belong to the puzzle that they were entered in. They are looked for even where no puzzle
+// was: one may have been deleted and left its letters behind.
+void DeleteProgressOf(const WCHAR* puzzlePath) {
+    for (const auto place : {ProgressFilePath, SecondProgressFilePath}) {
+        WCHAR path[MAX_PATH];
+        if (IsPuzzleName(puzzlePath) && place(puzzlePath, path) && IsRecordOf(puzzlePath, path)) {
+            DeleteFileW(path);
+        }
     }
 }
 

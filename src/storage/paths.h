@@ -27,3 +27,7 @@ bool PathInFolder(std::u16string_view folder, std::u16string_view name, WCHAR* b
 // The progress file beside a puzzle: the path with its last four characters replaced by ".dat".
 // False when there are fewer than four, or when it does not fit the buffer of 260 wide characters.
 bool ProgressFilePath(const WCHAR* puzzlePath, WCHAR* buffer);
+
+// The one in the program folder, for a puzzle beside which nothing can be written. False when it
+// does not fit the buffer of 260 wide characters.
+bool SecondProgressFilePath(const WCHAR* puzzlePath, WCHAR* buffer);

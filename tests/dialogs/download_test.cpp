@@ -160,10 +160,11 @@ TEST_F(Downloads, AChosenOrANewLinkIsEditedWithTheInputPanelUpAndListedOnce) {
 TEST_F(Downloads, EveryBlockIsStoredUnderTheSuggestedName) {
     EXPECT_EQ(Told({{Page("")}}), Messages{success}) << "an empty answer is one, without a file";
     EXPECT_EQ(Stored(), Files());
+    WriteBytes(folder / "TheSundayP.dat", "notes");
     for (const std::string& bytes : {puzzle, puzzle + std::string(70000, 'n') + "end"}) {
         fs::remove(folder / "TheSundayP.puz");
         EXPECT_EQ(Store(bytes), (Messages{Question(u"TheSundayP.puz"), success}));
-        EXPECT_EQ(Stored(), (Files{{"TheSundayP.puz", bytes}}));
+        EXPECT_EQ(Stored(), (Files{{"TheSundayP.dat", "notes"}, {"TheSundayP.puz", bytes}}));
     }
     EXPECT_EQ(CurrentPuzzlePath, u"\\My Documents\\start.puz"s) << "nothing is opened";
 }
@@ -303,8 +304,12 @@ TEST_F(Replacing, APuzzleLeavesNoLettersToItsSuccessor) {
     const Step store = [this] { StoreLookalike(); };
     const Step leave = [this] { OpenAnother(); };
     const Step remove = [this] { fs::remove(file); };
+    const Step block = [this] {
+        fs::remove(folder / "TheSundayP.dat");
+        fs::create_directory(folder / "TheSundayP.dat");
+    };
     const std::vector<Step> ways[] = {
-        {leave, store}, {leave, remove, store}, {store}, {store, leave}};
+        {leave, store}, {leave, remove, store}, {store}, {store, leave}, {block, leave, store}};
     for (const auto& steps : ways) {
         PlayFirst();
         for (const Step& step : steps) {
