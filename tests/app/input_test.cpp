@@ -21,20 +21,6 @@ TEST_F(Input, LettersOfEveryKindTypeLetters) {
     EXPECT_EQ(Direction, 1) << "a line end of an input method is the Enter key";
 }
 
-// Ctrl alone makes a command, and only of some letters.
-TEST_F(Input, KeysHeldWithCtrlOrAltNeitherTypeNorMove) {
-    const QImage screen = handheld->Client();
-    for (const auto modifiers : std::initializer_list<Qt::KeyboardModifiers>{
-             Qt::AltModifier, Qt::ControlModifier, Qt::ControlModifier | Qt::AltModifier}) {
-        for (int key : {int{'A'}, int{'E'}, int{'Z'}, int{Qt::Key_Return}, int{Qt::Key_Right}}) {
-            handheld->Press(key, modifiers);
-        }
-    }
-    handheld->Press('Q', Qt::ControlModifier | Qt::ShiftModifier);
-    ASSERT_TRUE(handheld->Running());
-    EXPECT_EQ(handheld->Client(), screen);
-}
-
 // Faults: the hold or its release flips the direction, the next tap is lost or still a hold.
 TEST_F(Input, ATremblingHandHoldsAndAMovingOneDrags) {
     handheld->TapCell(3, 5);

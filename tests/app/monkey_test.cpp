@@ -15,13 +15,37 @@ namespace {
 struct Puzzle {
     std::string name;
     BoardRows rows;
-    // As they were when the puzzle was left.
-    std::optional<BoardRows> letters = std::nullopt;
-    PlainSettings settings = {};
+    // As they were when the puzzle was left; at first the file's own.
+    BoardRows letters;
+    std::optional<PlainSettings> settings = std::nullopt;
 
     std::string Path() const {
         return "\\My Documents\\" + name + ".puz";
     }
+    std::string Bytes() const {
+        std::string bytes = PuzzleBytes(rows);
+        const std::string grid = Joined(letters);
+        return bytes.replace(gridOffset + grid.size(), grid.size(), grid);
+    }
+};
+
+// What it says of a file that is none.
+struct NoPuzzle {
+    std::string name;
+    std::string bytes;
+    std::u16string reason;
+};
+
+// Every time that the window is brought to the screen, for a moment or longer.
+struct ShownPictures : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            pictures.push_back(MainWindow->surface->Image().copy());
+        }
+        return false;
+    }
+
+    std::vector<QImage> pictures;
 };
 
 // The second one is higher than the window above the soft input panel, but not wider.
@@ -29,11 +53,14 @@ class Monkey {
 public:
     Monkey(unsigned seed, const BoardRows& rows)
         : random(seed),
-          puzzles{Puzzle{"a", rows}, Puzzle{"b", RandomBoard(random, 10, 10, 15)},
-                  Puzzle{"c", {"ABC", "D.E", "FGH"}}},
-          plain(rows) {
+          puzzles{Disagreeing("a", rows), Disagreeing("b", RandomBoard(random, 10, 10, 15)),
+                  Disagreeing("c", {"ABC", "D.E", "FGH"})},
+          plain(rows, puzzles[0].letters) {
         for (const Puzzle& puzzle : puzzles) {
-            WriteBytes(home.documents() / (puzzle.name + ".puz"), PuzzleBytes(puzzle.rows));
+            WriteBytes(home.documents() / (puzzle.name + ".puz"), puzzle.Bytes());
+        }
+        for (const NoPuzzle& file : files) {
+            WriteBytes(home.documents() / (file.name + ".puz"), file.bytes);
         }
         // It starts with the first one, with letters that are another puzzle's.
         ForgetPuzzle();
@@ -65,11 +92,11 @@ public:
                                              {28, "key", &Monkey::Press},
                                              {9, "hold", &Monkey::HoldCell},
                                              {12, "menu", &Monkey::ChooseFromMenu},
-                                             {9, "bar", &Monkey::PressBarButton},
+                                             {8, "bar", &Monkey::PressBarButton},
                                              {1, "resize", &Monkey::Resize},
                                              {1, "colours", &Monkey::Recolor},
                                              {3, "open", &Monkey::OpenAnother},
-                                             {1, "start", &Monkey::StartAgain}};
+                                             {2, "start", &Monkey::StartAgain}};
         int left = Below(100);
         const auto* action =
             std::find_if(std::begin(actions), std::end(actions), [&](const Action& each) {
@@ -86,6 +113,14 @@ private:
     }
     bool Sometimes(int chances) {
         return Below(chances) == 0;
+    }
+    // One square is black in one of the file's two grids alone.
+    Puzzle Disagreeing(const std::string& name, const BoardRows& rows) {
+        Puzzle puzzle{name, rows, EmptyBoard(rows)};
+        const int side = static_cast<int>(rows.size());
+        char& cell = puzzle.letters[std::size_t(Below(side))][std::size_t(Below(side))];
+        cell = cell == '.' ? '-' : '.';
+        return puzzle;
     }
 
     // Often in the selected cell, at the edges of a cell or on a key.
@@ -110,8 +145,14 @@ private:
 
     void Tap() {
         const POINT point = AnyPoint();
+        ShownPictures shown;
+        MainWindow->widget->installEventFilter(&shown);
         handheld->Tap(point.x, point.y);
         plain.Tap(point);
+        const std::vector<QImage>& pictures = shown.pictures;
+        EXPECT_TRUE(plain.flash.isNull() ||
+                    std::count(pictures.begin(), pictures.end(),
+                               plain.flash.copy(handheld->Client().rect())) == 1);
     }
 
     // Some leave the window, some end in its last pixel, some are no longer than a hand trembles.
@@ -136,8 +177,17 @@ private:
                                 Qt::Key_Up,        Qt::Key_Down,   Qt::Key_Escape, Qt::Key_Tab,
                                 Qt::Key_Space,     Qt::Key_F5,     Qt::Key_7,      Qt::Key_Delete};
         const int key = Sometimes(2) ? 'A' + Below(26) : keys[Below(std::size(keys))];
-        handheld->Press(key);
-        plain.Press(key);
+        if (!Sometimes(9)) {
+            handheld->Press(key);
+            plain.Press(key);
+            return;
+        }
+        // Ctrl alone makes a command, and only of some keys.
+        const Qt::KeyboardModifiers held[] = {Qt::AltModifier, Qt::ControlModifier,
+                                              Qt::ControlModifier | Qt::AltModifier,
+                                              Qt::ControlModifier | Qt::ShiftModifier};
+        const bool commands = key == 'Q' || key == Qt::Key_Down;
+        handheld->Press(key, held[commands ? 2 + Below(2) : Below(4)]);
     }
 
     void HoldCell() {
@@ -167,11 +217,19 @@ private:
             {hintMenu, {"Entire Puzzle"}},
             {sizeMenu, {"Small"}},
             {sizeMenu, {"Medium"}},
-            {sizeMenu, {"Large"}}};
+            {sizeMenu, {"Large"}},
+            {mainMenu, {"Puzzle Info"}}};
         const auto& [button, path] = items[Below(std::size(items))];
         const bool sure = AnswerIfAsked(path);
+        TakeShownMessages();
         EXPECT_TRUE(ChooseFromBar(*handheld, button, path));
-        GoAlong(path, sure);
+        if (path == ItemPath{"Puzzle Info"}) {
+            EXPECT_EQ(
+                TakeShownMessages(),
+                (std::vector{ShownMessage{u"Title\nAuthor\nCopyright", u"Puzzle Information"}}));
+        } else {
+            GoAlong(path, sure);
+        }
     }
 
     void GoAlong(const ItemPath& path, bool sure) {
@@ -180,11 +238,15 @@ private:
         }
     }
 
-    // Clearing the puzzle asks first.
+    // Clearing the puzzle asks first; a stray Enter must not cost the letters.
     bool AnswerIfAsked(const ItemPath& path) {
-        const bool sure = path != ItemPath{"Clear", "Puzzle"} || Sometimes(3);
-        if (path == ItemPath{"Clear", "Puzzle"}) {
-            AnswerNextMessageBox(sure ? IDYES : IDNO);
+        const bool asked = path == ItemPath{"Clear", "Puzzle"};
+        const bool sure = !asked || Sometimes(3);
+        if (asked && sure) {
+            AnswerNextMessageBox(IDYES);
+        } else if (asked) {
+            plans<QDialog>.emplace_back(
+                [](QDialog* box) { SendKey(box->focusWidget(), Qt::Key_Return); });
         }
         return sure;
     }
@@ -194,7 +256,8 @@ private:
         switch (Below(5)) {
             case 0:
                 EXPECT_TRUE(handheld->PressButton("Checks the puzzle"));
-                EXPECT_EQ(TakeShownMessages().size(), plain.Check() ? 1u : 0u);
+                shownMessages.push_back({});
+                EXPECT_EQ(TakeShownMessages()[0].title, plain.Check());
                 return;
             case 1:
                 EXPECT_TRUE(handheld->PressButton("Toggle clues across / down"));
@@ -235,30 +298,60 @@ private:
 
     // The puzzle in play may be chosen, too: it is saved and restored.
     void OpenAnother() {
-        Puzzle& chosen = puzzles[std::size_t(Below(3))];
-        ChooseNextFile(home.documents() / (chosen.name + ".puz"));
-        const bool sure = Below(4) != 0;
-        AnswerNextMessageBox(sure ? IDYES : IDNO);
-        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
-        if (!sure) {
-            return;
+        const int choice = Below(6);
+        const bool canBePlayed = choice < 3;
+        const std::string name =
+            canBePlayed ? puzzles[std::size_t(choice)].name : files[std::size_t(choice - 3)].name;
+        const auto before = home.Files();
+        const int answer = std::array{IDYES, IDYES, IDNO, IDCANCEL}[std::size_t(Below(4))];
+        ChooseNextFile(answer == IDCANCEL ? "" : home.documents() / (name + ".puz"));
+        if (answer != IDCANCEL) {
+            AnswerNextMessageBox(answer);
         }
+        TakeShownMessages();
+        EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
+        if (answer != IDYES) {
+            EXPECT_TRUE(home.Files() == before);
+        } else if (canBePlayed) {
+            LeaveFor(puzzles[std::size_t(choice)]);
+        } else {
+            EXPECT_EQ(TakeShownMessages().at(1),
+                      (ShownMessage{files[std::size_t(choice - 3)].reason, u"Open File"}));
+            if (choice == 3) {
+                // Too late noticed to do nothing at all.
+                plain.Open(present->rows, plain.letters);
+            }
+        }
+    }
+
+    void LeaveFor(Puzzle& chosen) {
         present->letters = plain.letters;
         present->settings = plain.settings;
         ExpectRecord(home.documents() / (present->name + ".dat"));
         present = &chosen;
-        if (chosen.letters) {
-            plain.settings = chosen.settings;
-        }
-        plain.Open(chosen.rows, chosen.letters.value_or(EmptyBoard(chosen.rows)));
+        plain.settings = chosen.settings.value_or(plain.settings);
+        plain.Open(chosen.rows, chosen.letters);
     }
 
     void StartAgain() {
+        std::filesystem::remove(home.stateFile());
+        End();
+        EXPECT_FALSE(handheld->Running());
         handheld.reset();
         ExpectRecord(home.stateFile());
         ForgetPuzzle();
         handheld.emplace(home);
         plain.StartAgain();
+    }
+
+    void End() {
+        switch (Below(5)) {
+            case 0: return handheld->Close();
+            case 1: EXPECT_TRUE(ChooseFromBar(*handheld, mainMenu, {"Exit"})); return;
+            case 2: return handheld->Press(Qt::Key_Q, Qt::ControlModifier);
+            case 3: return handheld->Press(Qt::Key_Down, Qt::ControlModifier);
+            default: SendMessageW(MainWindow, WM_SIZE, SIZE_MINIMIZED, 0); handheld->Settle();
+        }
     }
 
     void ExpectRecord(const std::filesystem::path& file) {
@@ -271,6 +364,14 @@ private:
 
     std::mt19937 random;
     std::array<Puzzle, 3> puzzles;
+    const std::array<NoPuzzle, 3> files = {{
+        {"page", "<html><body>The page you asked for is not here, sorry.</body></html>",
+         u"This file is not a puzzle that Quadrel can open."},
+        {"lopsided", PuzzleBytes(lopsidedBoard),
+         u"Quadrel plays square puzzles only. This one is 7 by 5."},
+        {"none", RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes(),
+         u"This file is not a puzzle that Quadrel can open."},
+    }};
     Puzzle* present = &puzzles[0];
     TemporaryHome home;
     std::optional<Handheld> handheld;

@@ -1,39 +1,27 @@
 // Sessions from start to end with what they say and the files they leave.
 
-#include <optional>
-
 #include "platform/files.h"
 #include "storage/paths.h"
-#include "support/menus.h"
 #include "support/no_space.h"
-#include "support/plain_record.h"
 #include "support/played_board.h"
 
 namespace {
 
 const BoardRows otherBoard = {"ABCD", "EF.G", "HIJK", "LMNO"};
-const std::u16string noPuzzle = u"This file is not a puzzle that Quadrel can open.";
 
 using Messages = std::vector<ShownMessage>;
 
-class Session : public testing::Test {
+// A first letter that somebody has entered: a puzzle starts empty all the same.
+std::string BegunPuzzle() {
+    std::string begun = PuzzleBytes(squareBoard);
+    begun[gridOffset + 36] = 'Q';
+    return begun;
+}
+
+class Session : public PlayedBoard {
 protected:
-    Session() {
-        // With a first letter that somebody has entered: a puzzle starts empty all the same.
-        std::string begun = PuzzleBytes(squareBoard, "First");
-        begun[gridOffset + 36] = 'Q';
-        PutFile("first.puz", begun);
-        PutFile("second.puz", PuzzleBytes(otherBoard, "Second"));
-        Start();
-    }
-    ~Session() override {
-        handheld.reset();
-        EXPECT_EQ(TakeShownMessages(), Messages());
-    }
-    void Start() {
-        handheld.reset();
-        ForgetPuzzle();
-        handheld.emplace(home);
+    Session() : PlayedBoard(BegunPuzzle()) {
+        PutFile("second.puz", PuzzleBytes(otherBoard));
     }
     void PutFile(const std::string& name, const std::string& bytes) {
         WriteBytes(home.documents() / name, bytes);
@@ -63,16 +51,6 @@ protected:
     bool StateHolds(const std::string& letters) {
         return ReadBytes(home.stateFile()).find(letters) != std::string::npos;
     }
-    // Everything that a player would miss.
-    static std::string Present() {
-        const std::u16string_view path(CurrentPuzzlePath);
-        return std::string(path.begin(), path.end()) + PlayerLetters() +
-               std::string(SolutionGrid, PlayerLetters().size()) + TitleText + ClueTable[1] +
-               std::to_string(CursorCol);
-    }
-
-    TemporaryHome home;
-    std::optional<Handheld> handheld;
 };
 
 // A start may find letters of another puzzle, or another puzzle than the one that was left.
@@ -81,16 +59,16 @@ TEST_F(Session, LettersOfAnotherPuzzleAreDropped) {
     handheld->Type("XYZ");
     BoardRows moved = squareBoard;
     moved[1][2] = '.';
-    PutFile("first.puz", PuzzleBytes(moved));
-    Start();
+    PutFile("start.puz", PuzzleBytes(moved));
+    Restart();
     EXPECT_TRUE(IsEmpty()) << "after a start with other black squares";
     handheld->Type("XYZ");
     handheld.reset();
-    Remove("first.puz");
+    Remove("start.puz");
     Remove("second.puz");
     // Of the same squares: only that the letters belong to another file tells them apart.
     PutFile("third.puz", PuzzleBytes(moved));
-    Start();
+    Restart();
     EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\third.puz");
     EXPECT_TRUE(IsEmpty()) << "of the fallback";
     PutFile("second.puz", PuzzleBytes(otherBoard));
@@ -100,38 +78,6 @@ TEST_F(Session, LettersOfAnotherPuzzleAreDropped) {
     PutFile("second.puz", PuzzleBytes({"ABCD", "E.FG", "HIJK", "LMNO"}));
     Open("second.puz");
     EXPECT_TRUE(IsEmpty()) << "of an older file of the same name";
-}
-
-// Faults: the puzzle in play is lost to a file that is none, or its letters are.
-TEST_F(Session, CancelAndNoAndWhatCannotBePlayedChangeNothing) {
-    const std::string good = PuzzleBytes(otherBoard);
-    std::string tooLarge = good;
-    tooLarge[widthOffset] = tooLarge[heightOffset] = 41;
-    const std::u16string notSquare = u"Quadrel plays square puzzles only. This one is ";
-    const std::pair<std::string, std::u16string> files[] = {
-        {"<html><body>The page you asked for is not here, sorry.</body></html>", noPuzzle},
-        {"", noPuzzle},
-        {tooLarge, noPuzzle},
-        {good.substr(0, gridOffset + 31), noPuzzle},
-        {RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes(), noPuzzle},
-        {PuzzleBytes(lopsidedBoard), notSquare + u"7 by 5."}};
-    handheld->Type("XYZ");
-    SelectCell(0, 0, 0);
-    RepaintFully(MainWindow);
-    const std::string before = Present();
-    const auto filesBefore = home.Files();
-    ChooseNextFile({});
-    EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
-    EXPECT_EQ(Choose("second.puz", IDNO), Messages());
-    EXPECT_EQ(Choose("second.puz", 0), Messages());
-    EXPECT_TRUE(home.Files() == filesBefore);
-    const QImage screen = handheld->Client();
-    for (const auto& [bytes, reason] : files) {
-        PutFile("broken.puz", bytes);
-        EXPECT_EQ(Choose("broken.puz"), (Messages{{reason, u"Open File"}})) << bytes.size();
-        EXPECT_EQ(Present(), before) << bytes.size() << " bytes";
-        EXPECT_EQ(handheld->Client(), screen);
-    }
 }
 
 // A file may go while the question is open. Closing the window answers it with No and saves.
@@ -152,12 +98,12 @@ TEST_F(Session, WithoutAPuzzleEverythingIsTakenCalmlyAndOneIsShownWhereverItIs) 
     handheld.reset();
     std::filesystem::remove(home.stateFile());
     Remove("second.puz");
-    Remove("first.puz");
+    Remove("start.puz");
     std::filesystem::create_directory(home.documents() / "a.puz");
     PutFile("b.puz", std::string(81, '\x0F'));
     PutFile("c.puz", PuzzleBytes(lopsidedBoard));
     PutFile("d.puz", RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes());
-    Start();
+    Restart();
     EXPECT_EQ(TakeShownMessages(),
               (Messages{{u"Please choose a puzzle file from the Available Puzzles option.",
                          u"Choose File"}}));
@@ -172,32 +118,9 @@ TEST_F(Session, WithoutAPuzzleEverythingIsTakenCalmlyAndOneIsShownWhereverItIs) 
     handheld->Close();
     EXPECT_EQ(ReadBytes(home.stateFile()).size(), 4096u);
     PutFile("Quadrel Puzzles/e.puz", PuzzleBytes(otherBoard));
-    Start();
+    Restart();
     EXPECT_EQ(std::u16string(CurrentPuzzlePath), u"\\My Documents\\Quadrel Puzzles\\e.puz");
     EXPECT_TRUE(IsEmpty());
-}
-
-TEST_F(Session, EveryWayOfEndingWritesTheState) {
-    BoardRows letters = EmptyBoard(squareBoard);
-    letters[0][0] = 'B';
-    for (const auto ending : std::initializer_list<void (*)(Handheld&)>{
-             [](Handheld& running) { running.Close(); },
-             [](Handheld& running) { ChooseFromBar(running, "Main Menu", {"Exit"}); },
-             [](Handheld& running) { running.Press(Qt::Key_Q, Qt::ControlModifier); },
-             [](Handheld& running) { running.Press(Qt::Key_Down, Qt::ControlModifier); },
-             [](Handheld& running) {
-                 SendMessageW(MainWindow, WM_SIZE, SIZE_MINIMIZED, 0);
-                 running.Settle();
-             }}) {
-        handheld.reset();
-        std::filesystem::remove(home.stateFile());
-        Start();
-        handheld->Type("B");
-        ending(*handheld);
-        EXPECT_FALSE(handheld->Running());
-        EXPECT_TRUE(ReadBytes(home.stateFile()) ==
-                    PlainRecord("\\My Documents\\first.puz", letters, {}));
-    }
 }
 
 // What is missing or locked today may be there and unlocked tomorrow.
@@ -210,33 +133,33 @@ TEST_F(Session, LettersWaitForTheirPuzzle) {
     locked[50] = 4;
     handheld->Type("XYZ");
     for (const std::string& bytes : {locked, PuzzleBytes(squareBoard)}) {
-        PutFile("first.puz", bytes);
-        Start();
+        PutFile("start.puz", bytes);
+        Restart();
         EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
     }
     handheld.reset();
-    Remove("first.puz");
-    Start();
+    Remove("start.puz");
+    Restart();
     EXPECT_EQ(PuzzleWidth, 4);
-    PutFile("first.puz", locked);
-    Open("first.puz");
+    PutFile("start.puz", locked);
+    Open("start.puz");
     EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
 }
 
 // A folder in the place of a file cannot be replaced, whoever asks.
 TEST_F(Session, LettersThatCannotBeWrittenInOnePlaceGoToTheOther) {
-    const auto besideIt = home.documents() / "first.dat";
+    const auto besideIt = home.documents() / "start.dat";
     const std::size_t files = home.Files().size();
     std::filesystem::create_directory(besideIt);
     handheld->Type("XYZ");
     Open("second.puz");
     EXPECT_EQ(home.Files().size(), files + 1);
-    Open("first.puz");
+    Open("start.puz");
     EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
     std::filesystem::remove(besideIt);
     Open("second.puz");
     EXPECT_EQ(home.Files().size(), files + 2) << "the second place is left behind";
-    Open("first.puz");
+    Open("start.puz");
     std::filesystem::create_directory(home.stateFile());
     handheld->Type("Q");
     while (SendMessageW(MainWindow, WM_KEEPSTATE, 0, 0) != 0) {
@@ -267,38 +190,6 @@ TEST_F(Session, TheStateIsKeptWhileItIsPlayedAndAFullDiskIsToldOnce) {
     keep();
     EXPECT_EQ(AwaitFiles(), 0u);
     EXPECT_TRUE(StateHolds("XYQ."));
-}
-
-TEST_F(Session, BoxesSayWhatTheyAreAbout) {
-    const auto said = [this](int command) {
-        SendMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(command), 0);
-        return TakeShownMessages();
-    };
-    EXPECT_EQ(said(commandCheck),
-              (Messages{{u"This button will check puzzle for errors. You've have not yet started "
-                         u"the puzzle, so there is nothing to check.",
-                         u"Puzzle Checker"}}));
-    handheld->Type("AB");
-    EXPECT_EQ(said(commandCheck),
-              (Messages{{u"All the letters entered so far are correct.", u"Nothing Wrong"}}));
-    // A stray Enter must not cost the letters.
-    DoDuringNextMessageBox([] {
-        const QPointer<QWidget> box = QApplication::activeModalWidget();
-        SendKey(box->focusWidget(), Qt::Key_Return);
-        while (box != nullptr && box->isVisible()) {
-            QCoreApplication::processEvents();
-        }
-    });
-    EXPECT_EQ(said(commandClearPuzzle),
-              (Messages{{u"Do you want to clear the puzzle ? This cannot be undone.",
-                         u"Are You Sure?"}}));
-    EXPECT_EQ(PlayerLetters().substr(0, 2), "AB");
-    const auto info = said(commandPuzzleInfo);
-    ASSERT_EQ(info.size(), 1u);
-    EXPECT_EQ(info[0].title, u"Puzzle Information");
-    for (const char16_t* text : {u"First", u"Author", u"Copyright"}) {
-        EXPECT_NE(info[0].text.find(text), std::u16string::npos);
-    }
 }
 
 }  // namespace

@@ -7,23 +7,23 @@
 #include "support/handheld.h"
 #include "support/plain_record.h"
 
-// Every key of the on-screen keyboard, by its letter: where it is drawn and what counts as it.
-// Right and bottom are inclusive.
+// Every key of the on-screen keyboard, by its letter: where it flashes and what counts as it, right
+// and bottom inclusive.
 struct PlainKey {
-    RECT drawn;
+    RECT flash;
     RECT taps;
 };
-constexpr int eraseKey = '<';
-constexpr int okKey = '!';
+constexpr char eraseKey = '<';
+constexpr char okKey = '!';
 // The first key of each row takes what lies to its left, as far as the row begins; the rows of taps
 // are a pixel lower than the keys.
-inline std::map<int, PlainKey> AllKeys() {
-    std::map<int, PlainKey> keys;
+inline std::map<char, PlainKey> AllKeys() {
+    std::map<char, PlainKey> keys;
     const auto addRow = [&keys](const std::string& letters, int left, int firstTap, RECT rows) {
         int x = left;
         for (char letter : letters) {
             const int tapsFrom = x == left ? firstTap : x;
-            keys[letter] = {{x, rows.left, x + 18, rows.top},
+            keys[letter] = {{x, rows.left, x + 19, rows.top},
                             {tapsFrom, rows.right, x + 19, rows.bottom}};
             x += 20;
         }
@@ -31,9 +31,14 @@ inline std::map<int, PlainKey> AllKeys() {
     addRow("QWERTYUIOP", 10, 0, {228, 239, 225, 239});
     addRow("ASDFGHJKL", 20, 1, {241, 252, 240, 251});
     addRow("ZXCVBNM", 30, 11, {254, 265, 252, 263});
-    keys[eraseKey] = {{170, 254, 188, 265}, {170, 252, 209, 263}};
+    keys[eraseKey] = {{170, 254, 189, 265}, {170, 252, 209, 263}};
     keys[okKey] = {{210, 254, 234, 265}, {210, 252, 239, 263}};
     return keys;
+}
+
+inline bool IsIn(const RECT& inclusive, POINT point) {
+    return point.x >= inclusive.left && point.x <= inclusive.right && point.y >= inclusive.top &&
+           point.y <= inclusive.bottom;
 }
 
 struct PlainCell {
@@ -45,8 +50,9 @@ struct PlainCell {
 class PlainGame {
 public:
     // The program has just started with that puzzle, whose clues are those of PuzzleBytes.
-    explicit PlainGame(const BoardRows& puzzle) : screen(std::make_shared<Canvas>(240, 268)) {
-        Open(puzzle, EmptyBoard(puzzle));
+    PlainGame(const BoardRows& puzzle, const BoardRows& grid)
+        : screen(std::make_shared<Canvas>(240, 268)) {
+        Open(puzzle, grid);
         StartAgain();
     }
 
@@ -87,6 +93,7 @@ public:
     // What the stylus does.
 
     void Tap(POINT point) {
+        flash = QImage();
         if (point.x < 0 || point.x >= 240 || point.y < 0) {
             return;
         }
@@ -175,30 +182,30 @@ public:
             PaintHint(last);
         } else {
             settings.numbers = settings.numbers != (last == "Numbers");
-            for (PlainCell cell : CellsOf(last)) {
-                if (menu == "Fill" || (menu == "Clear" && Solution(cell) != '.')) {
-                    Letter(cell) = menu == "Fill" ? Solution(cell) : '-';
-                }
+            if (menu != "Toggle") {
+                ChangeLetters(menu == "Fill", last);
             }
             Repaint(true);
         }
     }
 
-    // Neither bevels nor a highlight; wrong letters are red. True when something is said.
-    bool Check() {
+    // Neither bevels nor a highlight; wrong letters are red. The title of what is said.
+    std::u16string Check() {
         bool anyLetter = false;
         bool anyWrong = false;
         for (PlainCell cell : CellsOf("Puzzle")) {
             const char letter = Letter(cell);
             const bool wrong = letter != Solution(cell);
-            board->Fill(Box(cell), letter == '.' ? settings.squares : settings.letterCells);
-            WriteLetter(cell, letter, wrong ? red : black);
-            WriteNumber(cell, CellSide() / 2);
-            anyLetter = anyLetter || (letter != '.' && letter != '-');
-            anyWrong = anyWrong || (wrong && letter != '-');
+            const bool square = Solution(cell) == '.';
+            PaintCell(cell, square, false);
+            if (!square) {
+                WriteInto(cell, letter, wrong ? red : black);
+                anyLetter = anyLetter || letter != '-';
+                anyWrong = anyWrong || (wrong && letter != '-');
+            }
         }
         ShowView();
-        return !anyWrong || !anyLetter;
+        return !anyLetter ? u"Puzzle Checker" : anyWrong ? u"" : u"Nothing Wrong";
     }
 
     void TurnDirection() {
@@ -252,6 +259,7 @@ public:
     PlainCell selected;
     bool keyboardUp = false;
     bool panelUp = false;
+    QImage flash;  // the screen with the key that was tapped last
 
 private:
     static constexpr COLORREF black = RGB(0, 0, 0);
@@ -262,6 +270,7 @@ private:
     static constexpr COLORREF orange = RGB(255, 200, 125);
 
     static constexpr double cellPerEm = 1.117;  // of a letter's height
+    static constexpr UINT centred = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
 
     // A picture to paint on, white at first.
     struct Canvas : Surface {
@@ -328,15 +337,9 @@ private:
             return false;
         }
         PaintBoard();
-        for (PlainCell cell : CellsOf("Puzzle")) {
-            const int left = cell.col * CellSide();
-            const int top = cell.row * CellSide();
-            if (x < left || x >= left + CellSide() || y < top || y >= top + CellSide()) {
-                continue;
-            }
-            if (cell == selected && !held) {
-                direction = 1 - direction;
-            }
+        const PlainCell cell{y / CellSide(), x / CellSide()};
+        if (x >= 0 && x < side && y < side) {
+            direction = cell == selected && !held ? 1 - direction : direction;
             // A cell without both words stays unselected.
             if (WordAt(words, cell.row, cell.col, 0).length > 1 &&
                 WordAt(words, cell.row, cell.col, 1).length > 1) {
@@ -354,11 +357,10 @@ private:
     void TapKey(POINT point) {
         static const auto keys = AllKeys();
         for (const auto& [name, key] : keys) {
-            const RECT& zone = key.taps;
-            if (point.x < zone.left || point.x > zone.right || point.y < zone.top ||
-                point.y > zone.bottom) {
+            if (!IsIn(key.taps, point)) {
                 continue;
             }
+            Flash(key.flash, name == okKey ? "OK" : std::string(1, name == eraseKey ? ' ' : name));
             if (name == okKey) {
                 ToggleKeyboard();
             } else if (name == eraseKey) {
@@ -370,15 +372,35 @@ private:
         ShowView();
     }
 
+    void Flash(const RECT& key, const std::string& label) {
+        const RECT whole{key.left, key.top, key.right + 1, key.bottom + 1};
+        const RECT inside{key.left + 1, key.top + 1, key.right, key.bottom};
+        screen->Draw(FrameMark{whole, ToQRgb(black), ToQRgb(yellow), QSize(2, 2)});
+        screen->Write(label, inside, {FontChoice::Face::Small, false, 10}, centred, black);
+        flash = screen->Image().copy();
+        screen->Draw(ArtMark{{0, 225, 240, 269}, "keyboard.svg"});
+    }
+
+    // Only the whole puzzle's commands touch what is a black square to the player.
+    void ChangeLetters(bool fill, const std::string& scope) {
+        for (PlainCell cell : CellsOf(scope)) {
+            if (scope == "Puzzle" && Solution(cell) == '.') {
+                Letter(cell) = '.';
+            } else if (scope == "Puzzle" || Letter(cell) != '.') {
+                Letter(cell) = fill ? Solution(cell) : '-';
+            }
+        }
+    }
+
     void Enter(int key) {
-        if (Solution(selected) == '.') {
+        if (Letter(selected) == '.') {
             return;
         }
         Letter(selected) = static_cast<char>(key);
         PaintBoard();
         const std::vector<PlainCell> word = CellsOf("Word");
         auto place = std::find(word.begin(), word.end(), selected);
-        while (place + 1 != word.end()) {
+        while (place + 1 != word.end() && !(settings.autoSkip && Letter(place[1]) == '.')) {
             ++place;
             if (!settings.autoSkip || Letter(*place) == '-') {
                 break;
@@ -390,7 +412,7 @@ private:
     }
 
     void Erase() {
-        if (Solution(selected) == '.') {
+        if (Letter(selected) == '.') {
             return;
         }
         Letter(selected) = '-';
@@ -433,22 +455,14 @@ private:
                 position = first * cell;
             }
         };
-        const auto [row, col] = selected;
-        if (direction == 0) {
-            if (!showEnd(scroll.x, 240, word.col + word.length - 1, col)) {
-                showStart(scroll.x, 240, word.col);
-            }
-            if (!showEnd(scroll.y, ViewHeight(), row, row)) {
-                showStart(scroll.y, ViewHeight(), row);
-            }
-            return;
-        }
-        const bool endShown = showEnd(scroll.y, ViewHeight(), word.row + word.length - 1, row);
-        if (!endShown) {
+        const int lastRow = direction == 0 ? selected.row : word.row + word.length - 1;
+        const int lastCol = direction == 0 ? word.col + word.length - 1 : selected.col;
+        const bool rowShown = showEnd(scroll.y, ViewHeight(), lastRow, selected.row);
+        if (!rowShown) {
             showStart(scroll.y, ViewHeight(), word.row);
         }
-        if (!showEnd(scroll.x, 240, col, col) && !endShown) {
-            showStart(scroll.x, 240, col);
+        if (!showEnd(scroll.x, 240, lastCol, selected.col) && (direction == 0 || !rowShown)) {
+            showStart(scroll.x, 240, word.col);
         }
     }
 
@@ -473,21 +487,32 @@ private:
         board = std::make_shared<Canvas>(std::max(240, side), std::max(268, side));
     }
 
-    void WriteLetter(PlainCell cell, char letter, COLORREF color) {
-        if (letter != '.' && letter != '-') {
+    // The box of the number reaches so far beyond the cell's inside.
+    void WriteInto(PlainCell cell, char letter, COLORREF color, int reach) {
+        const RECT box = Box(cell);
+        if (letter != '-') {
             const FontChoice font{FontChoice::Face::System, true, (CellSide() - 2) / cellPerEm};
-            board->Write({letter}, Box(cell), font, DT_CENTER | DT_VCENTER | DT_SINGLELINE, color);
+            board->Write({letter}, box, font, centred, color);
         }
-    }
-
-    // The box reaches so far beyond the cell's inside.
-    void WriteNumber(PlainCell cell, int reach) {
         const auto number = numbers.find(cell);
         if (settings.size != 0 && settings.numbers && number != numbers.end()) {
-            const RECT box = Box(cell);
             const RECT area{box.left + 1, box.top, box.right - 1 + reach, box.bottom - 1 + reach};
             board->Write(std::to_string(number->second), area, {FontChoice::Face::Small, false, 7},
                          DT_SINGLELINE, black);
+        }
+    }
+    void WriteInto(PlainCell cell, char letter, COLORREF color) {
+        WriteInto(cell, letter, color, CellSide() / 2);
+    }
+
+    void PaintCell(PlainCell cell, bool square, bool bevel) {
+        const RECT box = Box(cell);
+        board->Fill(box, square ? settings.squares : settings.letterCells);
+        if (bevel && !square) {
+            const LONG left = box.left + 1;
+            const LONG top = box.top + 1;
+            board->Draw(LineMark{{left, top, box.right - 1, top + 1}, ToQRgb(grey)});
+            board->Draw(LineMark{{left, top, left + 1, box.bottom - 1}, ToQRgb(grey)});
         }
     }
 
@@ -495,18 +520,11 @@ private:
         const int whole = std::max(268, Side() * CellSide() + 1);
         board->Clear({0, 0, whole, whole});
         for (PlainCell cell : CellsOf("Puzzle")) {
-            const RECT box = Box(cell);
-            if (Solution(cell) == '.') {
-                board->Fill(box, settings.squares);
-                continue;
+            const char letter = solved ? Solution(cell) : Letter(cell);
+            PaintCell(cell, letter == '.', true);
+            if (letter != '.') {
+                WriteInto(cell, letter, solved ? red : black);
             }
-            const LONG left = box.left + 1;
-            const LONG top = box.top + 1;
-            board->Fill(box, settings.letterCells);
-            board->Draw(LineMark{{left, top, box.right - 1, top + 1}, ToQRgb(grey)});
-            board->Draw(LineMark{{left, top, left + 1, box.bottom - 1}, ToQRgb(grey)});
-            WriteLetter(cell, solved ? Solution(cell) : Letter(cell), solved ? red : black);
-            WriteNumber(cell, CellSide() / 2);
         }
     }
 
@@ -517,8 +535,9 @@ private:
             board->Fill(Box(cell), cell == selected ? orange : yellow);
         }
         for (PlainCell cell : word) {
-            WriteLetter(cell, solved ? Solution(cell) : Letter(cell), solved ? red : black);
-            WriteNumber(cell, CellSide() / 2);
+            if (Solution(cell) != '.') {
+                WriteInto(cell, solved ? Solution(cell) : Letter(cell), solved ? red : black);
+            }
         }
     }
 
@@ -528,9 +547,8 @@ private:
             PaintWord(true);
         } else if (scope == "Letter") {
             board->Fill(Box(selected), orange);
-            WriteLetter(selected, Solution(selected), red);
             // It must not run over the neighbour, which is not painted after it.
-            WriteNumber(selected, 0);
+            WriteInto(selected, Solution(selected) == '.' ? '-' : Solution(selected), red, 0);
         }
         ShowAll();
     }

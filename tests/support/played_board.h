@@ -66,8 +66,8 @@ inline void SelectCell(int row, int col, int direction) {
 
 class PlayedBoard : public testing::Test {
 protected:
-    PlayedBoard() {
-        WriteBytes(home.documents() / "start.puz", PuzzleBytes({"ABC", "D.E", "FGH"}));
+    explicit PlayedBoard(const std::string& puzzle = PuzzleBytes({"ABC", "D.E", "FGH"})) {
+        WriteBytes(home.documents() / "start.puz", puzzle);
         handheld = std::make_unique<Handheld>(home);
     }
     ~PlayedBoard() override {
