@@ -17,7 +17,7 @@ TEST_F(Board, FillsOutlinesAndBevelsAreAsRecordedAtEveryRatio) {
     for (double ratio : {1.0, 1.37, 2.0, 3.0}) {
         handheld->Resize(ratio);
         for (MagnificationFlags size : {smallSize, largeSize}) {
-            Play(lopsidedBoard, size);
+            Play(squareBoard, size);
             Repaint(MainWindow);
             const QImage shown = handheld->Client();
             const int height = static_cast<int>((PuzzleHeight * CellSize + 2) * ratio);

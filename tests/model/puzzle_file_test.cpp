@@ -75,17 +75,6 @@ protected:
     TemporaryHome home;
 };
 
-TEST_F(PuzzleFile, ThePlayersGridKeepsItsOwnBlackSquaresAndNoLetters) {
-    RawPuzzle puzzle = Ring();
-    puzzle.grids.replace(9, 9, "AxC-.-Zq.");
-    Open(puzzle.Bytes());
-    EXPECT_EQ(std::string(PlayerGrid, 9), "----.---.");
-    std::memcpy(PlayerGrid, "XYZ-.-XYZ", 9);
-    ResetPlayerGrid = 0;
-    Open(puzzle.Bytes());
-    EXPECT_EQ(std::string(PlayerGrid, 9), "XYZ-.-XYZ");
-}
-
 // The texts of the file before must not show through where a file has none.
 TEST_F(PuzzleFile, CutAtEveryByte) {
     RawPuzzle older = Ring();

@@ -50,8 +50,7 @@ inline RawPuzzle PuzzleOfBoard(const BoardRows& rows, std::vector<std::string> t
             Joined(rows) + Joined(EmptyBoard(rows)), std::move(texts)};
 }
 
-// Rows of different letters, so that a cell taken from the wrong place shows; neither symmetric nor
-// square, so that swapped rows and columns do.
+// Rows of different letters, so that a cell taken from the wrong place shows.
 inline BoardRows RandomBoard(std::mt19937& random, int width, int height, unsigned blackPercent) {
     BoardRows rows(static_cast<std::size_t>(height),
                    std::string(static_cast<std::size_t>(width), '.'));
@@ -61,34 +60,6 @@ inline BoardRows RandomBoard(std::mt19937& random, int width, int height, unsign
         }
     }
     return rows;
-}
-
-inline BoardRows RandomBoard(std::mt19937& random, int width, int height) {
-    const auto blackPercent = static_cast<unsigned>(random() % 50);
-    return RandomBoard(random, width, height, blackPercent);
-}
-
-inline BoardRows RandomBoard(std::mt19937& random) {
-    const int width = 1 + static_cast<int>(random() % 13);
-    const int height = 1 + static_cast<int>(random() % 9);
-    return random() % 2 == 0 ? RandomBoard(random, width, height)
-                             : RandomBoard(random, height, width);
-}
-
-// Puts a board of any shape into the model, numbered, with nothing entered yet.
-inline void PlaceBoard(const BoardRows& rows) {
-    const RawPuzzle puzzle = PuzzleOfBoard(rows, {});
-    PuzzleWidth = puzzle.width;
-    PuzzleHeight = puzzle.height;
-    const std::size_t count = puzzle.grids.size() / 2;
-    std::copy_n(puzzle.grids.begin(), count, SolutionGrid);
-    std::copy_n(puzzle.grids.begin() + static_cast<std::ptrdiff_t>(count), count, PlayerGrid);
-    std::fill(std::begin(Cells), std::end(Cells), CellRecord{-1, -1, -1});
-    std::fill(std::begin(AcrossList), std::end(AcrossList), WordRecord{-1, -1, -1});
-    std::fill(std::begin(DownList), std::end(DownList), WordRecord{-1, -1, -1});
-    NumberGrid();
-    ComputeWordLengths();
-    CursorRow = CursorCol = Direction = 0;
 }
 
 // The clue of a word by its index; some are longer than any bar.

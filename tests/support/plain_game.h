@@ -13,7 +13,7 @@ struct PlainKey {
     RECT flash;
     RECT taps;
 };
-constexpr char eraseKey = '<';
+constexpr char eraseKey = '-';
 constexpr char okKey = '!';
 // The first key of each row takes what lies to its left, as far as the row begins; the rows of taps
 // are a pixel lower than the keys.
@@ -148,9 +148,9 @@ public:
 
     void Press(int key) {
         if (key >= 'A' && key <= 'Z') {
-            Enter(key);
+            Enter(static_cast<char>(key));
         } else if (key == Qt::Key_Backspace) {
-            Erase();
+            Enter('-');
         } else {
             direction = key == Qt::Key_Return ? 1 - direction : direction;
             if (key == Qt::Key_Left || key == Qt::Key_Up) {
@@ -243,10 +243,9 @@ public:
         ASSERT_TRUE(handheld.Running());
         ASSERT_EQ(std::string(PlayerGrid, static_cast<std::size_t>(PuzzleWidth * PuzzleHeight)),
                   Joined(letters));
-        ASSERT_EQ(std::tuple(CursorRow, CursorCol, Direction),
-                  std::tuple(selected.row, selected.col, direction));
-        ASSERT_EQ(std::tuple(ScrollX, ScrollY, KeyboardVisible),
-                  std::tuple(int{scroll.x}, int{scroll.y}, int{keyboardUp}));
+        ASSERT_EQ(std::tuple(CursorRow, CursorCol, Direction, KeyboardVisible, ScrollX, ScrollY),
+                  std::tuple(selected.row, selected.col, direction, int{keyboardUp}, int{scroll.x},
+                             int{scroll.y}));
         const int size = Magnification.Large == 1 ? 2 : Magnification.Medium;
         ASSERT_TRUE(settings == (PlainSettings{size, AutoSkip == 1, ShowNumbers == 1,
                                                BackgroundColor, SquareColor}));
@@ -363,8 +362,6 @@ private:
             Flash(key.flash, name == okKey ? "OK" : std::string(1, name == eraseKey ? ' ' : name));
             if (name == okKey) {
                 ToggleKeyboard();
-            } else if (name == eraseKey) {
-                Erase();
             } else {
                 Enter(name);
             }
@@ -392,35 +389,28 @@ private:
         }
     }
 
-    void Enter(int key) {
+    // A letter, or '-' to erase.
+    void Enter(char letter) {
         if (Letter(selected) == '.') {
             return;
         }
-        Letter(selected) = static_cast<char>(key);
+        Letter(selected) = letter;
         PaintBoard();
         const std::vector<PlainCell> word = CellsOf("Word");
         auto place = std::find(word.begin(), word.end(), selected);
-        while (place + 1 != word.end() && !(settings.autoSkip && Letter(place[1]) == '.')) {
-            ++place;
-            if (!settings.autoSkip || Letter(*place) == '-') {
-                break;
+        if (letter == '-') {
+            place -= place == word.begin() ? 0 : 1;
+        } else {
+            while (place + 1 != word.end() && !(settings.autoSkip && Letter(place[1]) == '.')) {
+                ++place;
+                if (!settings.autoSkip || Letter(*place) == '-') {
+                    break;
+                }
             }
         }
         selected = *place;
         PaintWord();
         PaintBar();
-    }
-
-    void Erase() {
-        if (Letter(selected) == '.') {
-            return;
-        }
-        Letter(selected) = '-';
-        PaintBoard();
-        const std::vector<PlainCell> word = CellsOf("Word");
-        const auto place = std::find(word.begin(), word.end(), selected);
-        selected = place == word.begin() ? selected : *(place - 1);
-        PaintWord();
     }
 
     // Over the words of one direction in the order of their clues; to the corner from the list's

@@ -3,22 +3,16 @@
 
 #include "app/layout.h"
 #include "app/repaint.h"
+#include "model/puzzle_parser.h"
 #include "play/settings.h"
 #include "support/boards.h"
 #include "support/handheld.h"
 #include "support/message_boxes.h"
 
-// Neither symmetric nor square, with words that end at the right and at the bottom edge; N has no
-// across word, and I no down word.
-inline const BoardRows lopsidedBoard = {
-    "AB.CDEF",  //
-    "GHIJ.KL",  //
-    ".N.PQR.",  //
-    "STUVWXY",  //
-    "ZAB.C.A",
-};
+// No puzzle that can be opened: it is not square.
+inline const BoardRows lopsidedBoard = {"ABC", "DEF"};
 
-// The same for a puzzle that can be opened, which is square.
+// Not symmetric, with words that end at the right and at the bottom edge.
 inline const BoardRows squareBoard = {
     "ABC.DE",  //
     "FGHIJK",  //
@@ -66,8 +60,8 @@ inline void SelectCell(int row, int col, int direction) {
 
 class PlayedBoard : public testing::Test {
 protected:
-    explicit PlayedBoard(const std::string& puzzle = PuzzleBytes({"ABC", "D.E", "FGH"})) {
-        WriteBytes(home.documents() / "start.puz", puzzle);
+    explicit PlayedBoard(const BoardRows& puzzle = {"ABC", "D.E", "FGH"}) {
+        WriteBytes(home.documents() / "start.puz", PuzzleBytes(puzzle));
         handheld = std::make_unique<Handheld>(home);
     }
     ~PlayedBoard() override {
@@ -76,7 +70,10 @@ protected:
     }
 
     void Play(const BoardRows& rows, MagnificationFlags size) {
-        PlaceBoard(rows);
+        std::fill(PuzzleBytes(rows).copy(PuzzleImage, puzzleImageSize) + PuzzleImage,
+                  std::end(PuzzleImage), '\0');
+        ResetPlayerGrid = 1;
+        ParsePuzzle();
         Magnification = size;
         ComputeLayout(MainWindow);
         RepaintFully(MainWindow);
