@@ -19,6 +19,7 @@ struct Puzzle {
     // As they were when the puzzle was left; at first the file's own.
     BoardRows letters;
     std::optional<PlainSettings> settings = std::nullopt;
+    std::u16string reason = u"";  // why it cannot be played
 
     std::string Path() const {
         return "\\My Documents\\" + name + ".puz";
@@ -29,13 +30,6 @@ struct Puzzle {
         const std::string grid = std::regex_replace(Joined(letters), std::regex("-"), "Q");
         return bytes.replace(gridOffset + grid.size(), grid.size(), grid);
     }
-};
-
-// What it says of a file that is none.
-struct NoPuzzle {
-    std::string name;
-    std::string bytes;
-    std::u16string reason;
 };
 
 // Every time that the window is brought to the screen, for a moment or longer.
@@ -56,13 +50,14 @@ public:
     Monkey(unsigned seed, const BoardRows& rows)
         : random(seed),
           puzzles{Disagreeing("a", rows), Disagreeing("b", RandomBoard(random, 10, 10, 15)),
-                  Disagreeing("c", {"ABC", "D.E", "FGH"})},
+                  Disagreeing("c", {"ABC", "D.E", "FGH"}),
+                  NoPuzzle("d", BoardRows(41, std::string(41, 'A')),
+                           u"This file is not a puzzle that Quadrel can open."),
+                  NoPuzzle("e", lopsidedBoard,
+                           u"Quadrel plays square puzzles only. This one is 3 by 2.")},
           plain(rows, puzzles[0].letters) {
         for (const Puzzle& puzzle : puzzles) {
             WriteBytes(home.documents() / (puzzle.name + ".puz"), puzzle.Bytes());
-        }
-        for (const NoPuzzle& file : files) {
-            WriteBytes(home.documents() / (file.name + ".puz"), file.bytes);
         }
         // It starts with the first one, with letters that are another puzzle's.
         ForgetPuzzle();
@@ -115,6 +110,10 @@ private:
     }
     bool Sometimes(int chances) {
         return Below(chances) == 0;
+    }
+    static Puzzle NoPuzzle(const std::string& name, const BoardRows& rows,
+                           const std::u16string& reason) {
+        return {name, rows, EmptyBoard(rows), std::nullopt, reason};
     }
     // One square is black in one of the file's two grids alone.
     Puzzle Disagreeing(const std::string& name, const BoardRows& rows) {
@@ -300,13 +299,10 @@ private:
 
     // The puzzle in play may be chosen, too: it is saved and restored.
     void OpenAnother() {
-        const int choice = Below(6);
-        const bool canBePlayed = choice < 3;
-        const std::string name =
-            canBePlayed ? puzzles[std::size_t(choice)].name : files[std::size_t(choice - 3)].name;
+        Puzzle& chosen = puzzles[std::size_t(Below(5))];
         const auto before = home.Files();
         const int answer = std::array{IDYES, IDYES, IDNO, IDCANCEL}[std::size_t(Below(4))];
-        ChooseNextFile(answer == IDCANCEL ? "" : home.documents() / (name + ".puz"));
+        ChooseNextFile(answer == IDCANCEL ? "" : home.documents() / (chosen.name + ".puz"));
         if (answer != IDCANCEL) {
             AnswerNextMessageBox(answer);
         }
@@ -314,12 +310,11 @@ private:
         EXPECT_TRUE(handheld->PressButton("Select a new puzzle"));
         if (answer != IDYES) {
             EXPECT_TRUE(home.Files() == before);
-        } else if (canBePlayed) {
-            LeaveFor(puzzles[std::size_t(choice)]);
+        } else if (chosen.reason.empty()) {
+            LeaveFor(chosen);
         } else {
-            EXPECT_EQ(TakeShownMessages().at(1),
-                      (ShownMessage{files[std::size_t(choice - 3)].reason, u"Open File"}));
-            if (choice == 3) {
+            EXPECT_EQ(TakeShownMessages().at(1), (ShownMessage{chosen.reason, u"Open File"}));
+            if (&chosen == &puzzles[3]) {
                 // Too late noticed to do nothing at all.
                 plain.Open(present->rows, plain.letters);
             }
@@ -365,15 +360,7 @@ private:
     static constexpr const char* sizeMenu = "Puzzle magnification";
 
     std::mt19937 random;
-    std::array<Puzzle, 3> puzzles;
-    const std::array<NoPuzzle, 3> files = {{
-        {"page", "<html><body>The page you asked for is not here, sorry.</body></html>",
-         u"This file is not a puzzle that Quadrel can open."},
-        {"lopsided", PuzzleBytes(lopsidedBoard),
-         u"Quadrel plays square puzzles only. This one is 3 by 2."},
-        {"none", RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes(),
-         u"This file is not a puzzle that Quadrel can open."},
-    }};
+    std::array<Puzzle, 5> puzzles;
     Puzzle* present = &puzzles[0];
     TemporaryHome home;
     std::optional<Handheld> handheld;

@@ -72,13 +72,16 @@ TEST_F(Session, LettersOfAnotherPuzzleAreDropped) {
     EXPECT_TRUE(IsEmpty()) << "of an older file of the same name";
 }
 
-// A file may go while the question is open. Closing the window answers it with No and saves.
+// A file may be none, or go while the question is open. Closing the window answers it with No and
+// saves.
 TEST_F(Session, WhatHappensDuringTheQuestionCostsNoLetters) {
     handheld->Type("XYZ");
     DoDuringNextMessageBox([this] { Remove("second.puz"); });
     EXPECT_EQ(Choose("second.puz"), (Messages{{u"This file could not be opened.", u"Open File"}}));
     EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
-    PutFile("second.puz", PuzzleBytes(otherBoard));
+    PutFile("second.puz", RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes());
+    EXPECT_EQ(Choose("second.puz"),
+              (Messages{{u"This file is not a puzzle that Quadrel can open.", u"Open File"}}));
     DoDuringNextMessageBox([] { Host().close(); });
     EXPECT_EQ(Choose("second.puz", 0), Messages());
     EXPECT_FALSE(handheld->Running());
@@ -94,6 +97,7 @@ TEST_F(Session, WithoutAPuzzleEverythingIsTakenCalmlyAndOneIsShownWhereverItIs) 
     std::filesystem::create_directory(home.documents() / "a.puz");
     PutFile("b.puz", std::string(81, '\x0F'));
     PutFile("c.puz", PuzzleBytes(lopsidedBoard));
+    PutFile("d.puz", RawPuzzle{0, 0, "", {"T", "A", "C"}}.Bytes());
     Restart();
     EXPECT_EQ(TakeShownMessages(),
               (Messages{{u"Please choose a puzzle file from the Available Puzzles option.",

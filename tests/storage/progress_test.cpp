@@ -35,26 +35,20 @@ protected:
         BackgroundColor = usual.letterCells;
         SquareColor = usual.squares;
     }
-    std::string Saved() {
-        WCHAR path[MAX_PATH] = u"\\My Documents\\p.dat";
-        SaveProgress(path);
-        return ReadBytes(file);
-    }
     bool Load(const std::string& bytes) {
-        WriteBytes(file, bytes);
+        WriteBytes(home.documents() / "p.dat", bytes);
         WCHAR path[MAX_PATH] = u"\\My Documents\\p.dat";
         const bool taken = LoadProgress(path);
         EXPECT_EQ(std::u16string(path) == u"Could not open User", !taken);
         return taken;
     }
     void ExpectNotTaken(const std::string& bytes) {
-        const std::string before = Saved();
+        const std::string before = RecordOfPlay();
         EXPECT_FALSE(Load(bytes));
-        EXPECT_TRUE(Saved() == before);
+        EXPECT_TRUE(RecordOfPlay() == before);
     }
 
     const TemporaryHome home;
-    const std::filesystem::path file = home.documents() / "p.dat";
 };
 
 TEST_F(Progress, TakesFromARecordOnlyWhatMakesSense) {
@@ -100,7 +94,7 @@ TEST_F(Progress, ARecordCutAnywhereGivesWhatItHolds) {
         EXPECT_EQ(Magnification.Medium, length > gridEnd + 2 ? 1 : 0);
         EXPECT_EQ(BackgroundColor, length > gridEnd + 18 ? RGB(1, 22, 133) : usual.letterCells);
     }
-    EXPECT_TRUE(Load(SmallRecord()) && Saved() == SmallRecord());
+    EXPECT_TRUE(Load(SmallRecord()) && RecordOfPlay() == SmallRecord());
 }
 
 // Nor do sizes that a file which is not square left behind cost the settings.
@@ -110,7 +104,7 @@ TEST_F(Progress, TheLongestPathTheLargestBoardAndTheSettingsSurvive) {
         PuzzleWidth = width;
         PuzzleHeight = height;
         AutoSkip = 1;
-        const std::string record = Saved();
+        const std::string record = RecordOfPlay();
         AutoSkip = 0;
         EXPECT_TRUE(Load(record) && record.size() == 4096) << width;
         EXPECT_EQ(CurrentPuzzlePath[MAX_PATH - 2], u'\u6F22');

@@ -72,6 +72,7 @@ struct PlainWord {
     int col = 0;
     int length = 0;
     int direction = 0;
+    std::size_t index = 0;  // in the order of the clues
 
     bool Contains(int cellRow, int cellCol) const {
         return direction == 0 ? cellRow == row && cellCol >= col && cellCol < col + length
@@ -90,7 +91,7 @@ inline std::vector<PlainWord> WordsOf(const BoardRows& rows) {
                rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] != '.';
     };
     for (int i = 0; i < 2 * width * height; ++i) {
-        PlainWord word{i / 2 / width, i / 2 % width, 0, i % 2};
+        PlainWord word{i / 2 / width, i / 2 % width, 0, i % 2, words.size()};
         const int down = word.direction;
         const int right = 1 - down;
         while (isLetter(word.row + word.length * down, word.col + word.length * right)) {
@@ -103,20 +104,12 @@ inline std::vector<PlainWord> WordsOf(const BoardRows& rows) {
     return words;
 }
 
-// The cell's word in that direction; the cell alone, of length 1, when it has none.
+// The cell's word in that direction; the cell alone, behind all words, when it has none.
 inline PlainWord WordAt(const std::vector<PlainWord>& words, int row, int col, int direction) {
     for (const PlainWord& word : words) {
         if (word.direction == direction && word.Contains(row, col)) {
             return word;
         }
     }
-    return {row, col, 1, direction};
-}
-
-inline std::string BoardText(const BoardRows& rows) {
-    std::string text;
-    for (const std::string& row : rows) {
-        text += "\n" + row;
-    }
-    return text;
+    return {row, col, 1, direction, words.size()};
 }

@@ -154,9 +154,9 @@ public:
         } else {
             direction = key == Qt::Key_Return ? 1 - direction : direction;
             if (key == Qt::Key_Left || key == Qt::Key_Up) {
-                Jump(false);
+                Jump(-1);
             } else if (key == Qt::Key_Right || key == Qt::Key_Down) {
-                Jump(true);
+                Jump(1);
             }
             PaintBoard();
             PaintWord();
@@ -415,19 +415,18 @@ private:
 
     // Over the words of one direction in the order of their clues; to the corner from the list's
     // ends.
-    void Jump(bool forward) {
-        std::vector<PlainWord> list;
-        std::copy_if(words.begin(), words.end(), std::back_inserter(list),
-                     [this](const PlainWord& word) { return word.direction == direction; });
-        std::size_t current = 0;
-        while (current < list.size() && !list[current].Contains(selected.row, selected.col)) {
-            ++current;
+    void Jump(int step) {
+        const int count = static_cast<int>(words.size());
+        int next = static_cast<int>(SelectedWord().index) + step;
+        while (next >= 0 && next < count && WordOf(next).direction != direction) {
+            next += step;
         }
-        selected = {};
-        if (forward ? current + 1 < list.size() : current > 0) {
-            const PlainWord& target = list[forward ? current + 1 : current - 1];
-            selected = {target.row, target.col};
-        }
+        const bool isListed = next >= 0 && next < count;
+        selected = isListed ? PlainCell{WordOf(next).row, WordOf(next).col} : PlainCell();
+    }
+
+    const PlainWord& WordOf(int index) const {
+        return words[static_cast<std::size_t>(index)];
     }
 
     // The rules in pixels, one long list.
@@ -545,14 +544,12 @@ private:
 
     void PaintBar() {
         const int top = ViewHeight();
+        const PlainWord word = SelectedWord();
         std::string clue;
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            const PlainWord& word = words[i];
-            if (word.direction == direction && word.Contains(selected.row, selected.col)) {
-                clue = std::to_string(numbers.at({word.row, word.col})) +
-                       (direction == 0 ? " a: " : " d: ") + ClueOf(i) + " (" +
-                       std::to_string(word.length) + ")";
-            }
+        if (word.length > 1) {
+            clue = std::to_string(numbers.at({word.row, word.col})) +
+                   (direction == 0 ? " a: " : " d: ") + ClueOf(word.index) + " (" +
+                   std::to_string(word.length) + ")";
         }
         screen->Clear({0, top, 240, top + 22});
         screen->Write(clue, {1, top, 239, top + 22}, {FontChoice::Face::System, false, 10},

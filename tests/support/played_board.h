@@ -36,14 +36,10 @@ inline std::string PuzzleBytes(const BoardRows& rows, const std::string& title =
     return PuzzleOfBoard(rows, texts).Bytes();
 }
 
-// The model as a new process has it: every test of this one leaves its puzzle behind.
+// The grids as a new process has them: every test of this one leaves its puzzle behind.
 inline void ForgetPuzzle() {
     std::fill(std::begin(SolutionGrid), std::end(SolutionGrid), '\0');
     std::fill(std::begin(PlayerGrid), std::end(PlayerGrid), '\0');
-    std::fill(std::begin(Cells), std::end(Cells), CellRecord{});
-    std::fill(std::begin(AcrossList), std::end(AcrossList), WordRecord{});
-    std::fill(std::begin(DownList), std::end(DownList), WordRecord{});
-    ClueTable.fill("");
     ViewWidth = ViewHeight = BufferWidth = BufferHeight = 0;
 }
 
