@@ -94,12 +94,10 @@ public:
                                              {1, "colours", &Monkey::Recolor},
                                              {3, "open", &Monkey::OpenAnother},
                                              {2, "start", &Monkey::StartAgain}};
-        int left = Below(100);
-        const auto* action =
-            std::find_if(std::begin(actions), std::end(actions), [&](const Action& each) {
-                left -= each.chances;
-                return left < 0;
-            });
+        const Action* action = actions;
+        for (int left = Below(100); left >= action->chances; ++action) {
+            left -= action->chances;
+        }
         (this->*action->act)();
         return action->name;
     }
@@ -209,7 +207,6 @@ private:
         static const std::pair<const char*, ItemPath> items[] = {
             {mainMenu, {"Toggle", "Auto Skip"}},
             {mainMenu, {"Toggle", "Numbers"}},
-            {mainMenu, {"Toggle", "Numbers"}},
             {hintMenu, {"Current Letter"}},
             {hintMenu, {"Current Word"}},
             {hintMenu, {"Entire Puzzle"}},
@@ -277,13 +274,14 @@ private:
     }
 
     void CompareMenus() {
-        auto checks = ChecksOf(*handheld, mainMenu);
-        checks.merge(ChecksOf(*handheld, sizeMenu));
-        EXPECT_EQ(checks.at("Toggle/Auto Skip"), plain.settings.autoSkip);
-        EXPECT_EQ(checks.at("Toggle/Numbers"), plain.settings.numbers);
-        EXPECT_EQ(checks.at("Small"), plain.settings.size == 0);
-        EXPECT_EQ(checks.at("Medium"), plain.settings.size == 1);
-        EXPECT_EQ(checks.at("Large"), plain.settings.size == 2);
+        const PlainSettings& settings = plain.settings;
+        const auto checks = ChecksOf(*handheld, mainMenu);
+        EXPECT_EQ(checks.at("Toggle/Auto Skip"), settings.autoSkip);
+        EXPECT_EQ(checks.at("Toggle/Numbers"), settings.numbers);
+        EXPECT_EQ(ChecksOf(*handheld, sizeMenu),
+                  (std::map<QString, bool>{{"Small", settings.size == 0},
+                                           {"Medium", settings.size == 1},
+                                           {"Large", settings.size == 2}}));
     }
 
     void Resize() {
@@ -337,7 +335,9 @@ private:
         handheld.reset();
         ExpectRecord(home.stateFile());
         ForgetPuzzle();
+        const std::size_t files = home.Files().size();
         handheld.emplace(home);
+        EXPECT_EQ(home.Files().size(), files);
         plain.StartAgain();
     }
 

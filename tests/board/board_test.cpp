@@ -4,12 +4,7 @@
 
 namespace {
 
-class Board : public PlayedBoard {
-protected:
-    ~Board() override {
-        handheld->Resize(1);
-    }
-};
+using Board = PlayedBoard;
 
 TEST_F(Board, FillsOutlinesAndBevelsAreAsRecordedAtEveryRatio) {
     SquareColor = RGB(10, 90, 40);
@@ -26,6 +21,7 @@ TEST_F(Board, FillsOutlinesAndBevelsAreAsRecordedAtEveryRatio) {
             ExpectDrawnAsRecorded(shown.copy(0, 0, shown.width(), height), name.str());
         }
     }
+    handheld->Resize(1);
 }
 
 }  // namespace
