@@ -9,14 +9,6 @@
 
 namespace {
 
-std::string Repeat(std::string_view text, int count) {
-    std::string result;
-    for (int i = 0; i < count; ++i) {
-        result += text;
-    }
-    return result;
-}
-
 RawPuzzle Ring() {
     return PuzzleOfBoard({"ABC", "D.E", "FGH"},
                          {"T", "A", "C", "one across", "one down", "two down", "three across", ""});
@@ -25,7 +17,7 @@ RawPuzzle Ring() {
 // 13 across words a row, 27 down words in all.
 BoardRows ManyAcrossWords(std::size_t count) {
     BoardRows rows(40, std::string(40, '.'));
-    std::fill_n(rows.begin(), count, Repeat("AA.", 13) + "A");
+    std::fill_n(rows.begin(), count, QByteArray("AA.").repeated(13).toStdString() + "A");
     return rows;
 }
 
@@ -39,18 +31,8 @@ BoardRows FourHundredWords(const std::string& lastRow) {
     return rows;
 }
 
-// Everything that a refused file must leave alone, as bytes.
-std::string ModelBytes() {
-    std::string bytes(PuzzleImage, sizeof PuzzleImage);
-    bytes.append(SolutionGrid, sizeof SolutionGrid).append(PlayerGrid, sizeof PlayerGrid);
-    return bytes + TitleText + std::to_string(PuzzleWidth) + "x" + std::to_string(PuzzleHeight);
-}
-
 class PuzzleFile : public testing::Test {
 protected:
-    PuzzleFile() {
-        ResetPlayerGrid = 1;
-    }
     bool Read(const std::string& bytes) {
         WriteBytes(home.documents() / "p.puz", bytes);
         WCHAR path[MAX_PATH] = u"\\My Documents\\p.puz";
@@ -60,14 +42,15 @@ protected:
     }
     void Open(const std::string& bytes) {
         ASSERT_TRUE(Read(bytes));
+        ResetPlayerGrid = 1;
         ParsePuzzle();
         ASSERT_TRUE(TakeShownMessages().empty());
     }
     void ExpectRefused(const std::string& bytes) {
-        const std::string before = ModelBytes();
+        const std::string before(PuzzleImage, sizeof PuzzleImage);
         EXPECT_FALSE(Read(bytes));
         EXPECT_EQ(TakeShownMessages().size(), 1u);
-        EXPECT_TRUE(ModelBytes() == before);
+        EXPECT_TRUE(std::string(PuzzleImage, sizeof PuzzleImage) == before);
         int size = 0;
         EXPECT_FALSE(PeekPuzzleSize(u"\\My Documents\\p.puz", &size, &size));
     }
@@ -104,12 +87,12 @@ TEST_F(PuzzleFile, TextsWithoutEndAndForeignSectionsStayHarmless) {
     EXPECT_EQ(std::strlen(TitleText), titleTextSize - 1U);
     EXPECT_STREQ(ClueTable[0], "");
     puzzle.texts.back() = "some notes";
-    Open(puzzle.Bytes() + Repeat(std::string_view("x\0", 2), 7000));
+    Open(puzzle.Bytes() + QByteArray("x\0", 2).repeated(7000).toStdString());
     EXPECT_STREQ(ClueTable[maxClues - 1], "x");
     // A character that does not fit whole is left out whole.
-    puzzle.texts[0] = Repeat("\xC3\xA9", 200);
+    puzzle.texts[0] = QByteArray("\xC3\xA9").repeated(200);
     Open(puzzle.Bytes());
-    EXPECT_EQ(TitleText, Repeat("\xC3\xA9", 131));
+    EXPECT_EQ(TitleText, QByteArray("\xC3\xA9").repeated(131));
 }
 
 TEST_F(PuzzleFile, TakesTheLargestBoardsAndRefusesWhatTheModelCannotHold) {
