@@ -199,7 +199,7 @@ private:
         const ItemPath path = AnyScope(3);
         const bool sure = AnswerIfAsked(path);
         EXPECT_TRUE(ChooseFromContext(*handheld, point, path));
-        plain.HoldAt(point);
+        plain.Tap(point, true);
         GoAlong(path, sure);
     }
 

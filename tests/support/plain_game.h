@@ -92,24 +92,13 @@ public:
 
     // What the stylus does.
 
-    void Tap(POINT point) {
+    // With a tap-and-hold; the menu that opens then is not part of it.
+    void Tap(POINT point, bool held = false) {
         flash = QImage();
-        if (point.x < 0 || point.x >= 240 || point.y < 0) {
-            return;
-        }
-        if (point.y < ViewHeight()) {
-            if (TapBoard(point, false)) {
-                ShowView();
-            }
-        } else if (keyboardUp && point.y >= 225) {
+        if (IsInView(point)) {
+            TapBoard(point, held);
+        } else if (keyboardUp && !held) {
             TapKey(point);
-        }
-    }
-
-    // A tap-and-hold; the menu that opens then is not part of it.
-    void HoldAt(POINT point) {
-        if (point.y < ViewHeight()) {
-            TapBoard(point, true);
         }
         ShowView();
     }
@@ -133,8 +122,7 @@ public:
                             from.y + (to.y - from.y) * step / 10};
             // A hand trembles.
             moved = moved || std::abs(pen.x - from.x) > 4 || std::abs(pen.y - from.y) > 4;
-            const bool inView = pen.x >= 0 && pen.x < 240 && pen.y >= 0 && pen.y < ViewHeight();
-            if (scrolls && moved && inView) {
+            if (scrolls && moved && IsInView(pen)) {
                 along(scroll.x, last.x - pen.x, mostX);
                 along(scroll.y, last.y - pen.y, mostY);
                 last = pen;
@@ -153,10 +141,9 @@ public:
             Enter('-');
         } else {
             direction = key == Qt::Key_Return ? 1 - direction : direction;
-            if (key == Qt::Key_Left || key == Qt::Key_Up) {
-                Jump(-1);
-            } else if (key == Qt::Key_Right || key == Qt::Key_Down) {
-                Jump(1);
+            const bool back = key == Qt::Key_Left || key == Qt::Key_Up;
+            if (back || key == Qt::Key_Right || key == Qt::Key_Down) {
+                Jump(back ? -1 : 1);
             }
             PaintBoard();
             PaintWord();
@@ -287,6 +274,10 @@ private:
         }
     };
 
+    bool IsInView(POINT point) const {
+        return IsIn({0, 0, 239, ViewHeight() - 1}, point);
+    }
+
     int CellSide() const {
         const int fitting = std::min(240 / Side(), ViewHeight() / Side());
         return settings.size == 0 ? fitting : settings.size == 1 ? 20 : 24;
@@ -328,12 +319,12 @@ private:
     }
 
     // In Small the left outline, the top one and all beside the board are no part of it.
-    bool TapBoard(POINT point, bool held) {
+    void TapBoard(POINT point, bool held) {
         const int x = point.x - BoardLeft() + scroll.x;
         const int y = point.y + scroll.y;
         const int side = Side() * CellSide();
         if (settings.size == 0 && (x <= 0 || x >= side || y <= 0 || y > side)) {
-            return false;
+            return;
         }
         PaintBoard();
         const PlainCell cell{y / CellSide(), x / CellSide()};
@@ -350,7 +341,6 @@ private:
         if (settings.size != 0) {
             ScrollToWord();
         }
-        return true;
     }
 
     void TapKey(POINT point) {
@@ -366,7 +356,6 @@ private:
                 Enter(name);
             }
         }
-        ShowView();
     }
 
     void Flash(const RECT& key, const std::string& label) {
