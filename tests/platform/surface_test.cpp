@@ -13,7 +13,7 @@ namespace {
 
 constexpr double ratios[] = {1, 1.37, 2, 2.5, 3};
 constexpr UINT centred = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
-constexpr UINT formats[] = {centred, DT_WORDBREAK, 0};
+constexpr UINT formats[] = {centred, DT_WORDBREAK, 0, DT_SINGLELINE};
 constexpr QRgb paper = 0xFFFFFFFF;
 constexpr QRgb under = 0xFF00FF00;
 
@@ -92,7 +92,7 @@ protected:
             case 5: return FrameMark{area, color, second, QSize()};
         }
         const FontChoice font{FontChoice::Face(face % 2), bold % 2 == 0, height % 25 + 5.0};
-        return TextMark{area,  texts[text % 3], formats[format % 3], font, color, opaque % 2 == 0,
+        return TextMark{area,  texts[text % 3], formats[format % 4], font, color, opaque % 2 == 0,
                         second};
     }
     void Draw(const Mark& mark) {
@@ -139,18 +139,12 @@ protected:
     }
     void ExpectRight() {
         const Scale scale = surface.PresentScale();
-        const QImage expected = plain.Image(scale);
-        if (Below(2) == 0) {
-            QImage painted(expected.size(), QImage::Format_RGB32);
-            QPainter painter(&painted);
-            surface.Paint(painter);
-            EXPECT_EQ(painted, expected) << "at " << scale.ratio;
-        } else {
-            RECT area = areas[std::size_t(Below(8))];
-            area = {area.left, area.top, area.right + 1, area.bottom + 1};
-            const QRect seen = scale.Area(area);
-            EXPECT_EQ(surface.ImageWithin(area).copy(seen), expected.copy(seen)) << scale.ratio;
-        }
+        RECT area = areas[std::size_t(Below(8))];
+        area = Below(2) == 0 ? RECT{0, 0, 999, 999}
+                             : RECT{area.left, area.top, area.right + 1, area.bottom + 1};
+        const QRect seen = scale.Area(area);
+        EXPECT_EQ(surface.ImageWithin(area).copy(seen), plain.Image(scale).copy(seen))
+            << scale.ratio;
     }
 
     std::mt19937 random{GetParam()};
@@ -184,28 +178,20 @@ INSTANTIATE_TEST_SUITE_P(Seeds, Surfaces, testing::Range(1u, 27u));
 
 // In boxes of every format, too small for some; under them a grey that only opaque texts hide.
 TEST(Texts, LookAsRecordedAtEveryRatio) {
+    static const char16_t* const texts[] = {u"H", u"1234567",
+                                            u"\x01Two words and \u00C5ngstr\u00F6m",
+                                            u"Considerable indescribable\tWj\u00C7g|\nline"};
     for (double ratio : ratios) {
         Surface surface(240, 320);
         Surface::SetRatioOfAll(ratio);
-        int box = 0;
-        for (const char16_t* text : {u"H", u"1234567", u"\x01Two words and \u00C5ngstr\u00F6m",
-                                     u"Considerable indescribable\tWj\u00C7g|\nline"}) {
-            for (UINT format : {centred, UINT{DT_WORDBREAK}, 0u, UINT{DT_SINGLELINE}}) {
-                for (const bool bold : {false, true}) {
-                    const LONG left = box % 4 * 60;
-                    const LONG top = box / 4 * 40;
-                    const RECT area{left, top, left + 58, top + 20 + box % 3 * 9};
-                    surface.Draw(FillMark{{left, top + 4, left + 29, top + 36}, 0xFFBBBBBB});
-                    surface.Draw(TextMark{area,
-                                          text,
-                                          format,
-                                          {FontChoice::Face(box / 8 % 2), bold, 8.0 + box % 5 * 2},
-                                          0xFF000000,
-                                          box % 2 == 0,
-                                          under});
-                    ++box;
-                }
-            }
+        for (int box = 0; box < 32; ++box) {
+            const LONG left = box % 4 * 60;
+            const LONG top = box / 4 * 40;
+            const RECT area{left, top, left + 58, top + 20 + box % 3 * 9};
+            const FontChoice font{FontChoice::Face(box / 8 % 2), box % 2 == 1, 8.0 + box % 5 * 2};
+            surface.Draw(FillMark{{left, top + 4, left + 29, top + 36}, 0xFFBBBBBB});
+            surface.Draw(TextMark{area, texts[box / 8], formats[box / 2 % 4], font, 0xFF000000,
+                                  box % 2 == 0, under});
         }
         std::ostringstream name;
         name << "Texts at " << ratio;
