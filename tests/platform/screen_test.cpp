@@ -9,6 +9,7 @@
 #include "platform/qt/input/hold_cue.h"
 #include "platform/qt/input/tap_guard.h"
 #include "platform/qt/screen/bar_button.h"
+#include "platform/shell.h"
 #include "support/menus.h"
 #include "support/played_board.h"
 
@@ -98,9 +99,10 @@ TEST_F(Screen, LooksAsRecordedAndThePanelTypesWhatItsKeysShow) {
     }
 }
 
-TEST_F(Screen, TipsStandAboveTheirButtons) {
+TEST_F(Screen, TipsStandAboveTheirButtonsOfWhichThePanelsCanBeHidden) {
     handheld->Resize(2);
-    for (auto* button : Host().findChildren<BarButton*>()) {
+    const auto buttons = Host().findChildren<BarButton*>();
+    for (auto* button : buttons) {
         QHelpEvent event(QEvent::ToolTip, QPoint(), button->mapToGlobal(QPoint()));
         QCoreApplication::sendEvent(button, &event);
         EXPECT_EQ(QToolTip::text(), button->toolTip());
@@ -111,6 +113,9 @@ TEST_F(Screen, TipsStandAboveTheirButtons) {
         }
     }
     QToolTip::hideText();
+    SHFullScreen(MainWindow, SHFS_HIDESIPBUTTON);
+    EXPECT_EQ(std::count_if(buttons.begin(), buttons.end(), std::mem_fn(&QWidget::isHidden)), 1);
+    SHFullScreen(MainWindow, SHFS_SHOWSIPBUTTON);
 }
 
 // Faults: keys that are not the bar's are lost, or leave the focus there.
@@ -129,6 +134,13 @@ TEST_F(Screen, KeysGoAroundTheButtonsThatCanBePressedAndOthersAreTheGames) {
     Press({Qt::Key_F10, Qt::Key_K, Qt::Key_F10, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left,
            Qt::Key_Left, Qt::Key_Return});
     EXPECT_EQ(std::pair(PlayerLetters()[0], Direction), std::pair('K', 1));
+    for (const auto& [type, key] : {std::pair(QEvent::KeyPress, Qt::Key_Alt),
+                                    {QEvent::KeyPress, Qt::Key_X},
+                                    {QEvent::KeyRelease, Qt::Key_Alt}}) {
+        QKeyEvent event(type, key, Qt::AltModifier);
+        QCoreApplication::sendEvent(MainWindow->widget, &event);
+    }
+    EXPECT_EQ(Host().focusWidget(), MainWindow->widget) << "Alt with another key is none alone";
     PressFocusedKey(*handheld, Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(handheld->Running());
 }
