@@ -1,4 +1,6 @@
-// compile_puzzle INPUT.txt OUTPUT.puz
+// compile_puzzle [--bundled] INPUT.txt OUTPUT.puz
+//
+// With --bundled, more is asked of the puzzle: well_made.h.
 //
 // Exit status 0 when the output was written; 1 when it was not and the old output, if any, is as
 // it was; 2 when the command line is wrong.
@@ -50,14 +52,14 @@ bool ReplaceFile(const std::string& path, const std::vector<unsigned char>& byte
     return false;
 }
 
-int CompileFile(const std::string& input, const std::string& output) {
+int CompileFile(const std::string& input, const std::string& output, Standard standard) {
     const std::optional<std::string> text = ReadWholeFile(input);
     if (!text) {
         std::cerr << input << ": cannot be read\n";
         return 1;
     }
     PuzzleTextError error;
-    const std::optional<std::vector<unsigned char>> bytes = CompilePuzzle(*text, error);
+    const std::optional<std::vector<unsigned char>> bytes = CompilePuzzle(*text, error, standard);
     if (!bytes) {
         std::cerr << input << ':' << error.line << ": " << error.reason << '\n';
         return 1;
@@ -77,9 +79,14 @@ int CompileFile(const std::string& input, const std::string& output) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    if (argumentCount != 3) {
-        std::cerr << "usage: compile_puzzle INPUT.txt OUTPUT.puz\n";
+    std::vector<std::string> files(arguments + 1, arguments + argumentCount);
+    const bool bundled = !files.empty() && files[0] == "--bundled";
+    if (bundled) {
+        files.erase(files.begin());
+    }
+    if (files.size() != 2) {
+        std::cerr << "usage: compile_puzzle [--bundled] INPUT.txt OUTPUT.puz\n";
         return 2;
     }
-    return CompileFile(arguments[1], arguments[2]);
+    return CompileFile(files[0], files[1], bundled ? Standard::Bundled : Standard::Any);
 }

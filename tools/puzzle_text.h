@@ -38,9 +38,13 @@ struct PuzzleTextError {
     std::string reason;
 };
 
+// What is asked of a puzzle beyond what a file can hold.
+enum class Standard { Any, Bundled };
+
 // The bytes of the .puz file, or nothing and the first error found.
 //
 // The file has version 1.3 and an empty player grid. Each of its texts is Windows-1252 when it
 // can be, which every player program shows rightly, and UTF-8 when it holds anything else.
 std::optional<std::vector<unsigned char>> CompilePuzzle(std::string_view text,
-                                                        PuzzleTextError& error);
+                                                        PuzzleTextError& error,
+                                                        Standard standard = Standard::Any);

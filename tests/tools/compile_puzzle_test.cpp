@@ -1,12 +1,7 @@
-// The puzzle compiler beside a second, plain writer of its files, what it says about texts it
-// cannot take, and the bundled puzzles: that an edit of a grid or a clue has not spoiled one.
-//
-// COMPILE_PUZZLE_PATH is the built program, PUZZLES_PATH the folder with the puzzles' texts.
+// The puzzle compiler's files, and what it says about texts that it cannot take.
+// COMPILE_PUZZLE_PATH is the built program.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
-
-#include <QtCore/QDir>
-#include <regex>
 
 #include "support/boards.h"
 #include "support/temporary_home.h"
@@ -77,35 +72,48 @@ TEST(CompiledPuzzle, HoldsEveryPartInItsPlace) {
                   std::string(16, '\0') + "\3\3\4\0\1\0\0\0"s);
 }
 
+// A text whose clues say which words they belong to, in any order; they are added to the texts in
+// the file's.
+std::string SourceOf(const BoardRows& rows, std::vector<std::string>& texts) {
+    std::vector<std::string> clues;
+    std::map<std::pair<int, int>, std::size_t> numbers;
+    for (const PlainWord& word : WordsOf(rows)) {
+        const auto at = numbers.try_emplace({word.row, word.col}, numbers.size() + 1).first;
+        clues.push_back(std::to_string(at->second) + (word.direction == 0 ? " across" : " down"));
+    }
+    texts.insert(texts.end(), clues.begin(), clues.end());
+    std::shuffle(clues.begin(), clues.end(), std::mt19937(unsigned(rows.size())));
+    std::string source = "Grid:";
+    for (const std::string& row : rows) {
+        source += "\n" + row;
+    }
+    source += "\nClues:\n";
+    for (const std::string& clue : clues) {
+        source += clue + ": " + clue + "\n";
+    }
+    return source;
+}
+
 TEST(CompiledPuzzle, PutsCluesOfRandomBoardsInOrder) {
     for (unsigned seed = 0; seed < 200; ++seed) {
-        SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const int most = seed == 0 ? 255 : 13;
         BoardRows rows =
             RandomBoard(random, most - int(seed % 13), most - int(seed % 7), seed % 50);
         rows.back().back() = 'Z';  // never a board without a letter
         std::vector<std::string> texts(3);
-        std::map<std::pair<int, int>, std::size_t> numbers;
-        for (const PlainWord& word : WordsOf(rows)) {
-            const auto at = numbers.try_emplace({word.row, word.col}, numbers.size() + 1).first;
-            texts.push_back(std::to_string(at->second) +
-                            (word.direction == 0 ? " across" : " down"));
-        }
-        std::vector<std::string> clues(texts.begin() + 3, texts.end());
-        std::shuffle(clues.begin(), clues.end(), random);
-        std::string source = "Grid:";
-        for (const std::string& row : rows) {
-            source += "\n" + row;
-        }
-        source += "\nClues:\n";
-        for (const std::string& clue : clues) {
-            source += clue + ": " + clue + "\n";
-        }
+        const std::string source = SourceOf(rows, texts);
         texts.emplace_back();  // the notes
         ASSERT_EQ(Compile(source).substr(gridOffset),
                   PuzzleOfBoard(rows, texts).Bytes().substr(gridOffset));
     }
+}
+
+void ExpectRefused(const std::string& text, int line, const std::string& reason) {
+    PuzzleTextError error;
+    EXPECT_FALSE(CompilePuzzle(text, error, Standard::Bundled)) << text;
+    EXPECT_EQ(error.line, line) << error.reason;
+    EXPECT_NE(error.reason.find(reason), std::string::npos) << error.reason;
 }
 
 TEST(WrongText, IsNamedByLineAndReason) {
@@ -130,11 +138,29 @@ TEST(WrongText, IsNamedByLineAndReason) {
         {Replace(birds, "fan", "f\x1B[1m"), 12, "control"},
     };
     for (const auto& [text, line, reason] : examples) {
-        PuzzleTextError error;
-        EXPECT_FALSE(CompilePuzzle(text, error)) << text;
-        EXPECT_EQ(error.line, line) << error.reason;
-        EXPECT_NE(error.reason.find(reason), std::string::npos) << error.reason;
+        ExpectRefused(text, line, reason);
     }
+}
+
+TEST(WrongText, ThatIsBundledIsNotWellMade) {
+    const std::tuple<BoardRows, int, std::string> boards[] = {
+        {{"ABC", "DEF"}, 2, "not square"},
+        {BoardRows(41, std::string(41, 'A')), 2, "larger than 40"},
+        {{".ABC", "DEFG", "HIJK", "LMN."}, 2, "begins with a black"},
+        {{"ABCD", "EFG.", "HIJK", "LMNO"}, 3, "upside down"},
+        {{"AB", "CD"}, 2, "\"AB\" is too short"},
+        {{"ABC", "BDE", "CEF"}, 2, "twice"},
+        {{"ABC....", "DEF....", "GHI....", ".......", "....JKL", "....MNO", "....PQR"},
+         2,
+         "one piece"}};
+    std::vector<std::string> texts;
+    for (const auto& [rows, line, reason] : boards) {
+        const std::string source = SourceOf(rows, texts);
+        Compile(source);
+        ExpectRefused(source, line, reason);
+    }
+    const std::string good = SourceOf({"ABC", "DEF", "GHI"}, texts);
+    ExpectRefused(Replace(good, ": 1 down", ':' + std::string(71, 'n')), 7, "longer than 70");
 }
 
 // Faults: half a puzzle that a build calls up to date, a puzzle written over its own text.
@@ -163,31 +189,6 @@ TEST(CompileProgram, WritesWholePuzzlesOrNothing) {
     EXPECT_EQ(read("birds.puz"), Compile(birds));
     EXPECT_EQ(read("good.txt"), birds);
     EXPECT_EQ(home.Files().size(), 4U) << "a temporary file was left";
-}
-
-// Symmetrical, every letter in two words none of them short, and clues that
-// fit into the bar.
-TEST(BundledPuzzles, AreWellMade) {
-    for (const QFileInfo& text : QDir(PUZZLES_PATH).entryInfoList({"[!C]*.txt"})) {
-        SCOPED_TRACE(text.fileName().toStdString());
-        const std::string source = ReadBytes(text.filesystemFilePath());
-        EXPECT_FALSE(std::regex_search(source, std::regex("(across|down): .{71}")));
-        const std::string file = Compile(source);
-        const auto side = static_cast<std::size_t>(file[widthOffset]);
-        ASSERT_TRUE(file[widthOffset] == file[heightOffset] && file.size() <= 16000u);
-        BoardRows rows;
-        for (std::size_t row = 0; row < side; ++row) {
-            rows.push_back(file.substr(gridOffset + row * side, side));
-        }
-        const std::string empty = Joined(EmptyBoard(rows));
-        EXPECT_EQ(empty, std::string(empty.rbegin(), empty.rend()));
-        auto lacking = 2 * std::count(empty.begin(), empty.end(), '-');
-        for (const PlainWord& word : WordsOf(rows)) {
-            lacking -= word.length;
-            EXPECT_GE(word.length, 3);
-        }
-        EXPECT_EQ(lacking, 0);
-    }
 }
 
 }  // namespace
