@@ -1,5 +1,5 @@
-// Loading the network module, which lies beside the program file: a start without it reaches its
-// first frame 8 % earlier.
+// Loading the network module, which lies beside the program file or where it is installed: a start
+// without it reaches its first frame 8 % earlier.
 #pragma once
 
 #include <QtCore/QString>
