@@ -8,13 +8,13 @@ namespace puzzle_text {
 
 namespace {
 
-constexpr std::size_t largestSide = 40;
+constexpr std::size_t largestBoard = 40;
 constexpr std::size_t shortestWord = 3;
 constexpr std::size_t longestClue = 70;  // bytes
 
 bool HasGoodShape(const Grid& grid, const Source& source, PuzzleTextError& error) {
     const int line = source.rows[0].number;
-    if (grid.width != grid.height || grid.width > largestSide) {
+    if (grid.width != grid.height || grid.width > largestBoard) {
         return Fail(error, line, "the board is not square, or larger than 40 by 40");
     }
     if (grid.squares[0] == blackSquare) {

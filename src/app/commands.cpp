@@ -19,6 +19,7 @@
 #include "model/puzzle.h"
 #include "model/selection.h"
 #include "platform/dialogs.h"
+#include "platform/shell.h"
 #include "platform/text.h"
 #include "platform/windows.h"
 #include "play/fill_clear.h"
@@ -38,13 +39,16 @@ void CloseAsDialog(HWND window) {
     CloseProgram(window);
 }
 
-void OpenAnotherPuzzle(HWND window) {
-    if (OpenPuzzleFile(window) == 0) {
-        return;
-    }
+void ShowAnotherPuzzle(HWND window) {
     ComputeLayout(window);
     CursorRow = CursorCol = 0;
     RepaintFully(window);
+}
+
+void OpenAnotherPuzzle(HWND window) {
+    if (OpenPuzzleFile(window) != 0) {
+        ShowAnotherPuzzle(window);
+    }
 }
 
 void CheckAndCopy(HWND window) {
@@ -157,4 +161,11 @@ bool RunCommand(HWND window, int command) {
         case commandPuzzleInfo: ShowPuzzleInfo(window); return true;
         default: return ChangeSize(window, command);
     }
+}
+
+void OpenHandedPuzzle(HWND window, HDROP files) {
+    if (OpenHandedFile(window, files) != 0) {
+        ShowAnotherPuzzle(window);
+    }
+    DragFinish(files);
 }

@@ -82,6 +82,7 @@ LRESULT MainWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
         case WM_ACTIVATE: HandleActivation(window); return 0;
         case WM_PAINT: Repaint(window); return 0;
         case WM_SETTINGCHANGE: HandleSettingChange(window, wParam); return 0;
+        case WM_DROPFILES: OpenHandedPuzzle(window, reinterpret_cast<HDROP>(wParam)); return 0;
         case WM_KEEPSTATE: return KeepState() ? 1 : 0;
         case WM_KEYDOWN: HandleKeyDown(static_cast<int>(wParam)); return 1;
         case WM_COMMAND:

@@ -36,6 +36,13 @@ constexpr UINT SIP_FORCEDOWN = 2;
 // Says what the window would like; the panel goes up or down like by its button.
 BOOL SHSipPreference(HWND window, UINT state);
 
+// The files of a WM_DROPFILES: dropped on the window, named on the command line or by another
+// start. Their number for this index; else the length of the path that was copied, 0 for one that
+// does not fit the buffer or has no name on the device.
+constexpr UINT numberOfFiles = 0xFFFFFFFF;
+UINT DragQueryFileW(HDROP files, UINT index, WCHAR* buffer, UINT size);
+void DragFinish(HDROP files);
+
 // Fits the window to the visible desktop: 240 by 268 with the panel down, 240 by 188 with it up. A
 // dialog has no menu bar below it: 240 by 294 and 240 by 214.
 BOOL SHHandleWMSettingChange(HWND window, WPARAM wParam, LPARAM lParam, SHACTIVATEINFO* record);

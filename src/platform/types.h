@@ -30,6 +30,7 @@ struct MenuObject;
 struct IconObject;
 struct AcceleratorTable;
 struct ModuleResources;
+struct HandedFiles;
 
 using HWND = Window*;
 using HDC = DrawingContext*;
@@ -40,6 +41,7 @@ using HFONT = HGDIOBJ;
 using HBITMAP = HGDIOBJ;
 using HMENU = MenuObject*;
 using HICON = const IconObject*;
+using HDROP = HandedFiles*;
 using HACCEL = const AcceleratorTable*;
 using HINSTANCE = const ModuleResources*;  // see resources.h
 

@@ -26,6 +26,9 @@ constexpr UINT WM_TIMER = 275;
 constexpr UINT WM_MOUSEMOVE = 512;
 constexpr UINT WM_LBUTTONDOWN = 513;
 constexpr UINT WM_LBUTTONUP = 514;
+// Files were handed to the program from outside; wParam is their HDROP (shell.h). Queued when
+// nothing is open above the window any more.
+constexpr UINT WM_DROPFILES = 563;
 // The platform's own, sent while the program is played, so that nothing is lost in a crash: its
 // state should be on the disk soon. The answer is not 0 when it should be asked again, because a
 // file is still on its way.

@@ -8,6 +8,7 @@
 #include "model/puzzle_file.h"
 #include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
+#include "platform/shell.h"
 #include "platform/text.h"
 #include "storage/letters.h"
 #include "storage/paths.h"
@@ -33,6 +34,25 @@ bool ChooseFile(HWND owner, ChosenFile& chosen) {
     request.lpstrTitle = dialogTitle;
     request.Flags = OFN_EXPLORER;
     return GetOpenFileNameW(&request) != FALSE;
+}
+
+bool TakeFirstFile(HWND owner, HDROP files, ChosenFile& chosen) {
+    if (DragQueryFileW(files, 0, chosen.path, MAX_PATH) == 0) {
+        MessageBoxW(owner,
+                    u"The name of this file cannot be used: it is too long or has a backslash in "
+                    u"it. Please rename or move the file.",
+                    dialogTitle, MB_OK);
+        return false;
+    }
+    const std::u16string_view path = chosen.path;
+    CopyPath(path.substr(path.rfind(u'\\') + 1), chosen.name);
+    if (const UINT count = DragQueryFileW(files, numberOfFiles, nullptr, 0); count > 1) {
+        const std::u16string told = u"Quadrel opens one puzzle at a time. Of these " +
+                                    DecimalText(static_cast<int>(count)) +
+                                    u" files it takes the first.";
+        MessageBoxW(owner, told.c_str(), dialogTitle, MB_OK);
+    }
+    return true;
 }
 
 bool ConfirmLoading(HWND owner, const ChosenFile& chosen) {
@@ -92,14 +112,22 @@ void OpenChosenFile(HWND owner, const ChosenFile& chosen) {
     ParseWithRestoredGrid();
 }
 
-}  // namespace
-
-int OpenPuzzleFile(HWND owner) {
-    ChosenFile chosen;
-    if (!ChooseFile(owner, chosen) || !ConfirmLoading(owner, chosen) ||
-        !IsPlayable(owner, chosen) || !MayLetGo(owner)) {
+int OpenIfAgreed(HWND owner, const ChosenFile& chosen) {
+    if (!ConfirmLoading(owner, chosen) || !IsPlayable(owner, chosen) || !MayLetGo(owner)) {
         return 0;
     }
     OpenChosenFile(owner, chosen);
     return 1;
+}
+
+}  // namespace
+
+int OpenPuzzleFile(HWND owner) {
+    ChosenFile chosen;
+    return ChooseFile(owner, chosen) ? OpenIfAgreed(owner, chosen) : 0;
+}
+
+int OpenHandedFile(HWND owner, HDROP files) {
+    ChosenFile chosen;
+    return TakeFirstFile(owner, files, chosen) ? OpenIfAgreed(owner, chosen) : 0;
 }

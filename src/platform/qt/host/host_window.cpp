@@ -1,7 +1,10 @@
 #include "platform/qt/host/host_window.h"
 
+#include <QtCore/QMimeData>
 #include <QtCore/QTimer>
+#include <QtCore/QUrl>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QDropEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
@@ -20,6 +23,7 @@
 #include "platform/qt/screen/soft_input_panel.h"
 #include "platform/qt/screen/title_bar.h"
 #include "platform/qt/window/end_request.h"
+#include "platform/qt/window/handed_files.h"
 #include "platform/qt/window/notices.h"
 #include "platform/qt/window/open_above.h"
 #include "platform/qt/window/window.h"
@@ -29,6 +33,16 @@ namespace {
 
 LRESULT AnswerForMenuBar(HWND, UINT message, WPARAM, LPARAM lParam) {
     return message == SHCMBM_GETSUBMENU ? Host().MenuOfButton(static_cast<int>(lParam)) : 0;
+}
+
+QStringList LocalFiles(const QMimeData& data) {
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) {
+            files << url.toLocalFile();
+        }
+    }
+    return files;
 }
 
 void Place(QWidget* widget, const QRectF& exact) {
@@ -49,6 +63,7 @@ HostWindow::HostWindow()
       panel(new SoftInputPanel(this)) {
     setMinimumSize(screenWidth, screenHeight);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAcceptDrops(true);
     menuBar->hide();
     panel->hide();
     MenuBarHandle()->procedure = AnswerForMenuBar;
@@ -215,6 +230,17 @@ void HostWindow::paintEvent(QPaintEvent* event) {
 void HostWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     AskProgramToEnd();
+}
+
+void HostWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!LocalFiles(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void HostWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    HandOver(LocalFiles(*event->mimeData()));
 }
 
 void HostWindow::changeEvent(QEvent* event) {

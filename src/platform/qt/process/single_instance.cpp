@@ -20,6 +20,7 @@
 #include "platform/qt/files/device_paths.h"
 #include "platform/qt/host/host_window.h"
 #include "platform/qt/window/end_request.h"
+#include "platform/qt/window/handed_files.h"
 #include "platform/qt/window/notices.h"
 #include "platform/qt/window/window.h"
 
@@ -100,24 +101,60 @@ void Listen(const QByteArray& name) {
     }
 }
 
+// What a start says to the one that is there: the desktop's permission to come forward, and the
+// files to be opened, each ended by a zero.
+QByteArray Wish() {
+    QByteArray wish = qgetenv("XDG_ACTIVATION_TOKEN") + '\0';
+    for (const QString& file : WaitingFiles()) {
+        wish += file.toUtf8() + '\0';
+    }
+    return wish;
+}
+
+void Obey(const QByteArray& wish) {
+    QList<QByteArray> parts = wish.split('\0');
+    qputenv("XDG_ACTIVATION_TOKEN", parts.takeFirst());
+    Host().ComeForward();
+    QStringList files;
+    while (parts.size() > 1) {
+        files << QString::fromUtf8(parts.takeFirst());
+    }
+    HandOver(files);
+}
+
+// False while the caller may still say more.
+bool HearOut(int call, QByteArray& wish) {
+    char block[4096];
+    ssize_t count = 0;
+    while ((count = recv(call, block, sizeof block, MSG_DONTWAIT)) > 0) {
+        wish.append(block, count);
+    }
+    return count == 0 || errno != EAGAIN;
+}
+
+// Not at once: a player who closes the window and starts the game again means the second.
+constexpr std::chrono::milliseconds timeForAnEnding(50);
+
 // A call to an instance that is about to end breaks off when the process is gone, and the caller
 // takes its place.
-void Answer(int call) {
+void Answer(int call, QByteArray wish) {
     const bool ending = BottomWindow() == nullptr || EndingAsked();
+    if (!ending && !HearOut(call, wish)) {
+        QTimer::singleShot(timeForAnEnding, [call, wish] { Answer(call, wish); });
+        return;
+    }
     [[maybe_unused]] const auto sent = send(call, ending ? &isEnding : &isHere, 1, MSG_NOSIGNAL);
     if (!ending) {
-        Host().ComeForward();
+        Obey(wish);
         close(call);
     }
 }
 
-// Not at once: a player who closes the window and starts the game again means the second.
 void AnswerCalls() {
-    constexpr std::chrono::milliseconds timeForAnEnding(50);
     int call = -1;
     while ((call = accept4(listener, nullptr, nullptr, SOCK_CLOEXEC)) >= 0) {
         if (IsOfThisUser(call)) {
-            QTimer::singleShot(timeForAnEnding, [call] { Answer(call); });
+            QTimer::singleShot(timeForAnEnding, [call] { Answer(call, {}); });
         } else {
             close(call);
         }
@@ -153,6 +190,10 @@ char CallOther(const QByteArray& name) {
     char answer = 0;
     if (connect(call, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
         IsOfThisUser(call)) {
+        const QByteArray wish = Wish();
+        [[maybe_unused]] const auto sent =
+            send(call, wish.constData(), static_cast<std::size_t>(wish.size()), MSG_NOSIGNAL);
+        shutdown(call, SHUT_WR);
         answer = Receive(call, PatienceWithOther());
         if (answer == isEnding) {
             Receive(call, seconds(10));

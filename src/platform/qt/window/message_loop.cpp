@@ -6,6 +6,7 @@
 
 #include "platform/qt/common/find_by_id.h"
 #include "platform/qt/common/message_queue.h"
+#include "platform/qt/window/handed_files.h"
 #include "platform/qt/window/keep_state.h"
 #include "platform/qt/window/notices.h"
 #include "platform/qt/window/window.h"
@@ -14,6 +15,7 @@
 BOOL GetMessageW(MSG* message, HWND, UINT, UINT) {
     while (!MessagesWaiting()) {
         PaintAllDue();
+        TellWaitingFiles();
         if (!MessagesWaiting()) {
             QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         }
