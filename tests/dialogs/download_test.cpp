@@ -1,9 +1,6 @@
 // The download dialog, its list of links, and what becomes of what is downloaded.
 #include <optional>
 
-#include "platform/qt/network/network_module.h"
-#include "platform/qt/network/waiting.h"
-#include "platform/qt/window/end_request.h"
 #include "storage/paths.h"
 #include "support/dialogs.h"
 #include "support/no_space.h"
@@ -15,7 +12,6 @@ namespace fs = std::filesystem;
 using namespace std::string_literals;
 
 using Links = std::vector<std::string>;
-using Files = std::map<std::string, std::string>;
 using Messages = std::vector<ShownMessage>;
 
 const std::string defaultLink = "http://www.example.com/daily/puzzles/today.puz";
@@ -41,10 +37,6 @@ class Downloads : public DialogTest {
 protected:
     Downloads() {
         fs::create_directories(folder);
-        TakeShownChoosers();
-    }
-    ~Downloads() override {
-        ForgetPlans();
         TakeShownChoosers();
     }
     // What the player is told about that link, which is listed from then on when all went well.
@@ -74,16 +66,14 @@ protected:
         Plan(asSuggested, {IDYES, IDYES});
         return Told({{Page(bytes)}});
     }
+    void PlayFirst() {
+        Store(puzzle);
+        OpenPuzzle(file);
+        handheld->Type("XYZ");
+    }
     static ShownMessage Question(const std::u16string& name) {
         return {u"Save file at this location: \\My Documents\\Quadrel Puzzles\\" + name,
                 u"Confirm"};
-    }
-    Files Stored() const {
-        Files files;
-        for (const auto& entry : fs::directory_iterator(folder)) {
-            files[entry.path().filename()] = entry.is_directory() ? "" : ReadBytes(entry.path());
-        }
-        return files;
     }
     // The list's file, every link ended by a zero.
     static std::string Listed(const Links& links) {
@@ -97,18 +87,46 @@ protected:
     WebServer server;
     fs::path linkFile = home.programFolder() / "quadrelhttplist.dat";
     fs::path folder = home.documents() / "Quadrel Puzzles";
+    fs::path file = folder / "TheSundayP.puz";
+    fs::path another = home.documents() / "start.puz";
     std::string puzzle = Titled(squareBoard, "The Sunday Puzzle No. 12");
 };
 
-TEST_F(Downloads, OnlyOkKeepsTheLinksAsTheyAreShown) {
+// Their file ends at two zeros and passes over one; 4096 bytes count, 259 characters of a link do,
+// and none is torn. Fault: something is read beyond the buffer.
+TEST_F(Downloads, LinksAreShownAndKeptInTheirOrder) {
+    const std::string longest(259, 'a');
+    const std::string puzzlePiece = "\xF0\x9F\xA7\xA9";
+    const std::pair<std::string, Links> files[] = {
+        {"\0\0\0a\0"s, {}},
+        {"c\0\xC3\xA4\xE8\xB0\x9C\0d"s, {"c", "\xC3\xA4\xE8\xB0\x9C", "d"}},
+        {"\0b\0\0a\0\0\0c"s, {"b", "a"}},
+        {std::string(9000, 'a'), {longest}},
+        {std::string(4094, 'a') + "\0bbbb"s, {longest, "b"}},
+        {std::string(4095, 'a') + "\0b"s, {longest}},
+        {std::string(258, 'a') + puzzlePiece, {std::string(258, 'a')}},
+        {"", {}}};
+    for (const auto& [bytes, shown] : files) {
+        WriteBytes(linkFile, bytes);
+        Use(commandDownload, [&, &expected = shown](OpenDialog& dialog) {
+            EXPECT_EQ(dialog.Lines(controlLinks), expected);
+            dialog.Tap(controlKeepLinks);
+        });
+        EXPECT_EQ(fs::exists(linkFile) ? ReadBytes(linkFile) : "none",
+                  shown.empty() ? "none" : Listed(shown));
+    }
     Use(commandDownload,
         [](OpenDialog& dialog) { EXPECT_EQ(dialog.Lines(controlLinks), Links{defaultLink}); });
     EXPECT_FALSE(fs::exists(linkFile)) << "the title bar's OK keeps nothing";
-    const Links links = {"http://b.example/caf\xC3\xA9.puz", "http://a.example/1.puz", "x"};
+}
+
+TEST_F(Downloads, OnlyOkKeepsWhatIsLeftOfTheLinks) {
+    const std::string most(257, 'a');
+    const Links links = {"http://b.example/caf\xC3\xA9.puz", "x", most + "\xE8\xB0\x9C"};
+    const Links left = {links[0], links[2]};
     WriteBytes(linkFile, Listed(links));
     for (const bool keep : {false, true}) {
         Use(commandDownload, [&](OpenDialog& dialog) {
-            EXPECT_EQ(dialog.Lines(controlLinks), links);
             dialog.Tap(controlDeleteLink);
             EXPECT_EQ(TakeShownMessages(), Messages()) << "nothing is selected";
             for (int answer : {IDNO, IDYES}) {
@@ -116,12 +134,12 @@ TEST_F(Downloads, OnlyOkKeepsTheLinksAsTheyAreShown) {
                 dialog.TapLine(controlLinks, 1);
                 AnswerNextMessageBox(answer);
                 dialog.Tap(controlDeleteLink);
-                EXPECT_EQ(TakeShownMessages(), (Messages{{u"Delete Link ?", u"New Game"}}));
             }
-            EXPECT_EQ(dialog.Lines(controlLinks), (Links{links[0], links[2]}));
+            EXPECT_EQ(TakeShownMessages(), Messages(2, {u"Delete Link ?", u"New Game"}));
+            EXPECT_EQ(dialog.Lines(controlLinks), left);
             keep ? dialog.Tap(controlKeepLinks) : dialog.TapTitleOk();
         });
-        EXPECT_EQ(ReadBytes(linkFile), Listed(keep ? Links{links[0], links[2]} : links));
+        EXPECT_EQ(ReadBytes(linkFile), Listed(keep ? Links{links[0], most} : links));
     }
 }
 
@@ -157,28 +175,21 @@ TEST_F(Downloads, AChosenOrANewLinkIsEditedWithTheInputPanelUpAndListedOnce) {
     TakeShownMessages();
 }
 
-TEST_F(Downloads, EveryBlockIsStoredUnderTheSuggestedName) {
-    EXPECT_EQ(Told({{Page("")}}), Messages{success}) << "an empty answer is one, without a file";
-    EXPECT_EQ(Stored(), Files());
-    WriteBytes(folder / "TheSundayP.dat", "notes");
-    for (const std::string& bytes : {puzzle, puzzle + std::string(70000, 'n') + "end"}) {
-        fs::remove(folder / "TheSundayP.puz");
-        EXPECT_EQ(Store(bytes), (Messages{Question(u"TheSundayP.puz"), success}));
-        EXPECT_EQ(Stored(), (Files{{"TheSundayP.dat", "notes"}, {"TheSundayP.puz", bytes}}));
+TEST_F(Downloads, TooLongLinksOtherFilesAndANoStoreNothing) {
+    const std::string longest = server.Link("/a.puz?" + std::string(259, 'a')).substr(0, 259);
+    server.Put(longest.substr(server.Link("").size()), {{Page(puzzle)}});
+    for (const std::string& notes :
+         {std::string(4096, 'n'), "\\My Documents\\Quadrel Puzzles\\TheSundayP.puz\0notes"s}) {
+        WriteBytes(folder / "TheSundayP.dat", notes);
+        Plan(asSuggested, {IDYES});
+        EXPECT_EQ(ToldAbout(longest), (Messages{Question(u"TheSundayP.puz"), success}));
+        EXPECT_EQ(ReadBytes(folder / "TheSundayP.dat"), notes);
+        fs::remove(file);
     }
-    EXPECT_EQ(CurrentPuzzlePath, u"\\My Documents\\start.puz"s) << "nothing is opened";
-}
-
-TEST_F(Downloads, FailuresAndANoStoreNothing) {
-    EXPECT_EQ(ToldAbout("gopher://127.0.0.1/"), Error(u"InternetOpenUrl Error: 2ee6"));
-    const std::string refused = WebServer().Link("/a.puz");
-    EXPECT_EQ(ToldAbout(refused), Error(u"InternetOpenUrl Error: 2efd"));
-    EXPECT_EQ(Told({{Page(puzzle).substr(0, 150)}}), Error(u"InternetReadFile Error: 2eff"));
-    EXPECT_EQ(ToldAbout("http://127.0.0.1/" + std::string(243, 'a')),
+    EXPECT_EQ(ToldAbout(longest + 'a'),
               Error(u"This link is too long: a link may have 259 characters."));
-    const QString usual = std::exchange(networkModuleName, "libquadrel_network_missing.so");
-    EXPECT_EQ(Told({{Page(puzzle)}}), Error(u"The network cannot be used: 7e"));
-    networkModuleName = usual;
+    EXPECT_EQ(CurrentPuzzlePath, u"\\My Documents\\start.puz"s) << "nothing is opened";
+    TakeShownChoosers();
     for (const std::string& bytes :
          {"<html><body>The page you asked for is not here, sorry.</body></html>"s,
           " <!DocType html><title>Not found, sorry</title>"s, puzzle.substr(0, 45),
@@ -189,7 +200,7 @@ TEST_F(Downloads, FailuresAndANoStoreNothing) {
     EXPECT_TRUE(TakeShownChoosers().empty());
     Plan(asSuggested, {IDNO});
     EXPECT_EQ(Told({{Page(puzzle)}}), Messages{Question(u"TheSundayP.puz")});
-    EXPECT_EQ(Stored(), Files());
+    EXPECT_FALSE(fs::exists(file));
 }
 
 // The four zeros, the grids and the title are looked for in whatever arrives.
@@ -211,9 +222,8 @@ TEST_F(Downloads, TheTitlesLettersAndDigitsAreSuggestedAndNothingElseIsRead) {
         EXPECT_EQ(Told({{Page(block)}}), Messages()) << "the chooser was cancelled";
         const auto choosers = TakeShownChoosers();
         ASSERT_EQ(choosers.size(), 1u);
-        EXPECT_EQ(std::pair(choosers[0].title, choosers[0].folder),
-                  std::pair(u"Save File"s, folder));
-        EXPECT_EQ(choosers[0].name, name);
+        EXPECT_EQ(std::tuple(choosers[0].title, choosers[0].folder, choosers[0].name),
+                  std::tuple(u"Save File"s, folder, name));
     }
 }
 
@@ -227,12 +237,12 @@ TEST_F(Downloads, TheChooserAddsTheExtensionThenAsksBeforeItReplaces) {
     EXPECT_EQ(TakeShownChoosers().back().name, "mine.puz") << "the name stays to be changed";
     Plan("mine.", {IDYES, IDYES});
     EXPECT_EQ(Told({{Page(puzzle)}}), (Messages{replaced, Question(u"mine.puz"), success}));
-    EXPECT_EQ(Stored(), (Files{{"mine.puz", puzzle}, {"new.Puz", puzzle}}));
-    for (const auto& [file, explained] :
+    EXPECT_EQ(ReadBytes(folder / "mine.puz") + ReadBytes(folder / "new.Puz"), puzzle + puzzle);
+    for (const auto& [unfit, explained] :
          {std::pair(folder / "back\\slash.puz", u"name of this file cannot be used"),
           {folder / "none" / "new.puz", u"Nothing can be saved in this folder"}}) {
         TakeShownChoosers();
-        Plan(file, {});
+        Plan(unfit, {});
         const Messages messages = Told({{Page(puzzle)}});
         ASSERT_EQ(messages.size(), 1u);
         EXPECT_NE(messages[0].text.find(explained), std::u16string::npos);
@@ -242,7 +252,6 @@ TEST_F(Downloads, TheChooserAddsTheExtensionThenAsksBeforeItReplaces) {
 
 // The disk changes while the player thinks about the last question.
 TEST_F(Downloads, WhatCannotBeWrittenSaysWhy) {
-    const fs::path file = folder / "TheSundayP.puz";
     const auto expect = [&](const std::u16string& error, const std::string& answer,
                             const std::function<void()>& change) {
         fs::remove(file);
@@ -253,16 +262,14 @@ TEST_F(Downloads, WhatCannotBeWrittenSaysWhy) {
     const std::string longPuzzle = puzzle + std::string(50000, 'n');
     expect(u"InternetReadFile Error: 2eff", Page(longPuzzle).substr(0, 45000), [] {});
     EXPECT_EQ(ReadBytes(file), longPuzzle.substr(0, 32000)) << "what came before the break";
-    expect(u"InternetReadFile Error: 2eff", Page(longPuzzle).substr(0, 45000),
-           [&] { WriteBytes(file, "old"); });
-    EXPECT_EQ(ReadBytes(file), "old");
     std::optional<NoSpace> full;
     expect(u"WriteFile Error: 70", Page(longPuzzle), [&] {
         WriteBytes(file, "old");
         full.emplace();
     });
     full.reset();
-    EXPECT_EQ(Stored(), (Files{{"TheSundayP.puz", "old"}}));
+    EXPECT_EQ(ReadBytes(file), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1) << "something is left behind";
     expect(u"CreateFile Error: 5", Page(puzzle), [&] { fs::create_directory(file); });
     expect(u"CreateFile Error: 3", Page(puzzle), [this] { fs::remove_all(folder); });
 }
@@ -274,71 +281,46 @@ TEST_F(Downloads, AskedToEndOneEndsAtOnceAndSaysNothing) {
     EXPECT_FALSE(handheld->Running());
 }
 
-class Replacing : public Downloads {
-protected:
-    Replacing() {
-        PlayFirst();
-    }
-    void PlayFirst() {
-        Store(puzzle);
-        OpenPuzzle(file);
-        handheld->Type("XYZ");
-    }
-    void OpenAnother() {
-        OpenPuzzle(home.documents() / "start.puz");
-    }
-    // The same black squares as squareBoard, other letters.
-    void StoreLookalike() {
-        const BoardRows rows = {"QWE.RT", "YUIOPA", "SD.FGH", "JKLZXC", ".VBNMQ", "WE.RTY"};
-        Store(Titled(rows, "The Sunday Puzzle No. 13"));
-    }
-    static void ExpectFreshLookalike() {
-        EXPECT_EQ(PlayerLetters() + SolutionGrid[0], "---.----------.---------.-------.---Q");
-    }
-
-    fs::path file = folder / "TheSundayP.puz";
-};
-
-TEST_F(Replacing, APuzzleLeavesNoLettersToItsSuccessor) {
+// Of a puzzle with the same black squares and other letters.
+TEST_F(Downloads, APuzzleLeavesNoLettersToItsSuccessor) {
+    const BoardRows rows = {"QWE.RT", "YUIOPA", "SD.FGH", "JKLZXC", ".VBNMQ", "WE.RTY"};
+    const std::string fresh = "---.----------.---------.-------.---Q";
+    const fs::path record = folder / "TheSundayP.dat";
     using Step = std::function<void()>;
-    const Step store = [this] { StoreLookalike(); };
-    const Step leave = [this] { OpenAnother(); };
-    const Step remove = [this] { fs::remove(file); };
-    const Step block = [this] {
-        fs::remove(folder / "TheSundayP.dat");
-        fs::create_directory(folder / "TheSundayP.dat");
-    };
+    const Step store = [&] { Store(Titled(rows, "The Sunday Puzzle No. 13")); };
+    const Step leave = [&] { OpenPuzzle(another); };
+    const Step remove = [&] { fs::remove(file); };
+    const Step block = [&] { fs::remove(record), fs::create_directory(record); };
     const std::vector<Step> ways[] = {
         {leave, store}, {leave, remove, store}, {store}, {store, leave}, {block, leave, store}};
     for (const auto& steps : ways) {
         PlayFirst();
-        for (const Step& step : steps) {
-            step();
-        }
+        std::for_each(steps.begin(), steps.end(), [](const Step& step) { step(); });
         OpenPuzzle(file);
-        ExpectFreshLookalike();
+        EXPECT_EQ(PlayerLetters() + SolutionGrid[0], fresh);
     }
     PlayFirst();
-    StoreLookalike();
+    store();
     handheld->Type("W");
     EXPECT_EQ(PlayerLetters().substr(0, 3), "XYW") << "the one in play is played on";
     Magnification = mediumSize;
     Restart();
-    ExpectFreshLookalike();
+    EXPECT_EQ(PlayerLetters() + SolutionGrid[0], fresh);
     EXPECT_EQ(Magnification.Medium, 1) << "the settings are the player's";
 }
 
-TEST_F(Replacing, TheSamePuzzleKeepsItsLettersAndACorrectedOne) {
+TEST_F(Downloads, TheSamePuzzleKeepsItsLettersAndACorrectedOne) {
+    PlayFirst();
     BoardRows corrected = squareBoard;
     corrected[4][4] = 'Q';
     for (const std::string& bytes : {puzzle, Titled(corrected, "The Sunday Puzzle No. 12")}) {
-        Store(bytes);
-        Restart();
-        EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
-        OpenAnother();
-        Store(bytes);
-        OpenPuzzle(file);
-        EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+        for (const fs::path& next : {file, another}) {
+            OpenPuzzle(next);
+            Store(bytes);
+            Restart();
+            OpenPuzzle(file);
+            EXPECT_EQ(PlayerLetters().substr(0, 3), "XYZ");
+        }
     }
 }
 

@@ -62,6 +62,8 @@ protected:
     }
     ~PlayedBoard() override {
         handheld.reset();
+        ForgetPlans();
+        TakeShownChoosers();
         EXPECT_EQ(TakeShownMessages(), std::vector<ShownMessage>());
     }
 
