@@ -98,8 +98,8 @@ BOOL GetClientRect(HWND window, RECT* rectangle);
 // Gives the keyboard to a window or a control.
 void SetFocus(HWND window);
 
-// The window of this class and title, of this process or of another one that runs from the same
-// program folder for the same user; null when there is none.
+// The program's window in another process that runs from the same program folder for the same user;
+// null when there is none, and then this process is the one that others find.
 HWND FindWindowW(const WCHAR* className, const WCHAR* title);
 // Takes the window, with or without its lowest bit set. Asks the other process when it is there.
 BOOL SetForegroundWindow(HWND window);

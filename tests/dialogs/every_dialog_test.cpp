@@ -34,8 +34,8 @@ TEST_P(EveryDialog, LeavesTheScreenAsItWasWhicheverWayItCloses) {
         const QImage screen = handheld->Screen();
         for (const auto& way : ways) {
             handheld->PressPanelButton();
-            UseDialog(*handheld, open, [&](OpenDialog& dialog) {
-                EXPECT_EQ(dialog.Title(), title);
+            Use(open, [&](OpenDialog& dialog) {
+                EXPECT_EQ(QString::fromStdU16String(TopWindow()->title).toStdString(), title);
                 EXPECT_FALSE(Host().PanelUp());
                 way(dialog);
                 EXPECT_FALSE(dialog.IsOpen());
@@ -56,7 +56,7 @@ TEST_P(EveryDialog, AnImpatientHandOpensItOnce) {
         PostMessageW(MainWindow, WM_KEYDOWN, 'Z', 0);
         handheld->Settle();
     };
-    UseDialog(*handheld, open, [&](OpenDialog&) {
+    Use(open, [&](OpenDialog&) {
         ++opened;
         EXPECT_FALSE(handheld->PressButton("Select a new puzzle"));
     });

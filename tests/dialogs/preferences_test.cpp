@@ -73,8 +73,9 @@ TEST_F(Preferences, AColorIsTakenAtOnceAndACancelledOneNever) {
         EXPECT_EQ(QColorDialog::customColor(15), QColor(96, 96, 96));
     });
     // A black square of the first row, and a letter cell.
-    EXPECT_EQ(handheld->Pixel(BoardLeft + 3 * CellSize + CellSize / 2, CellSize / 2), green);
-    EXPECT_EQ(handheld->Pixel(BoardLeft + 4 * CellSize + 2, CellSize - 3), cream);
+    const QImage board = handheld->Client();
+    EXPECT_EQ(ColorAt(board, BoardLeft + 3 * CellSize + CellSize / 2, CellSize / 2), green);
+    EXPECT_EQ(ColorAt(board, BoardLeft + 4 * CellSize + 2, CellSize - 3), cream);
 }
 
 }  // namespace

@@ -191,32 +191,6 @@ TEST_F(Screen, BoxAnswersYesOnlyWhenItIsMeant) {
     }
 }
 
-TEST_F(Screen, WindowsAreToldWhatChangesAndCalledForward) {
-    static std::vector<std::pair<UINT, WPARAM>> told;
-    WNDCLASSW example;
-    example.lpszClassName = u"Example";
-    example.lpfnWndProc = [](HWND, UINT message, WPARAM wParam, LPARAM) -> LRESULT {
-        told.emplace_back(message, wParam);
-        return 0;
-    };
-    RegisterClassW(&example);
-    HWND window = CreateWindowExW(0, u"Example", u"A window", WS_VISIBLE, CW_USEDEFAULT,
-                                  CW_USEDEFAULT, 99, 50, nullptr, nullptr, nullptr, nullptr);
-    UpdateWindow(window);
-    QWidget other;
-    other.show();
-    other.activateWindow();
-    handheld->Settle();
-    EXPECT_FALSE(Host().isActiveWindow());
-    EXPECT_EQ(FindWindowW(u"Example", u"A window"), window);
-    SetForegroundWindow(reinterpret_cast<HWND>(reinterpret_cast<std::uintptr_t>(window) | 1));
-    handheld->Settle();
-    EXPECT_TRUE(Host().isActiveWindow());
-    DestroyWindow(window);
-    EXPECT_EQ(told, (decltype(told){
-                        {WM_CREATE, 0}, {WM_ACTIVATE, WA_ACTIVE}, {WM_PAINT, 0}, {WM_DESTROY, 0}}));
-}
-
 TEST_F(Screen, ARingGrowsAroundAHeldStylus) {
     handheld->Resize(3);
     QRect place;
@@ -225,7 +199,9 @@ TEST_F(Screen, ARingGrowsAroundAHeldStylus) {
         place = cue->geometry();
         EXPECT_EQ(cue->grab().toImage().pixel(48, 48 - 13 * 3), 0xFF2F6DB5);
     });
-    handheld->Hold(100, 70);
+    handheld->PutDown({100, 70});
+    handheld->Settle();
+    handheld->LiftAt({100, 70});
     EXPECT_EQ(place, QRectF(301.5 - 48.6, 289.5 - 48.6, 97.2, 97.2).toRect());
 }
 

@@ -20,10 +20,6 @@ public:
         return IsLiveWindow(window) && window->visible;
     }
 
-    std::string Title() const {
-        return QString::fromStdU16String(window->title).toStdString();
-    }
-
     // The stylus touches one place of the widget and is lifted at another.
     void Drag(QWidget* widget, QPointF from, QPointF to) {
         DragOver(widget, from, to);
@@ -81,18 +77,8 @@ public:
         return lines;
     }
 
-    // -1 when none is selected.
-    int SelectedLine(int list) const {
-        return Find<QListWidget>(list)->currentRow();
-    }
-
     bool HasFocus(int control) const {
         return Host().focusWidget() == Widget(control);
-    }
-
-    // What the dialog itself has drawn, under its controls.
-    QImage Drawn() const {
-        return window->surface->Image().copy();
     }
 
     template <typename WidgetType>
@@ -115,41 +101,31 @@ private:
     HWND window;
 };
 
-// Opens a dialog by whatever `open` does and uses it; what is still open then is closed by the OK
-// in its title bar. Fails when no dialog opens.
-inline void UseDialog(Handheld& handheld, const std::function<void()>& open,
-                      const std::function<void(OpenDialog&)>& use) {
-    bool used = false;
-    UseNextDialog([&] {
-        used = true;
-        // Arrow keys ask the application where the focus is.
-        QApplication::setActiveWindow(&Host());
-        handheld.Settle();
-        OpenDialog dialog(handheld);
-        use(dialog);
-        if (dialog.IsOpen()) {
-            dialog.TapTitleOk();
-        }
-        // Its loop waits for a message that was handled here already.
-        PostMessageW(TopWindow(), 0, 0, 0);
-    });
-    open();
-    handheld.Settle();
-    EXPECT_TRUE(used);
-}
-
-// Opens it by its command.
-inline void UseDialog(Handheld& handheld, int command,
-                      const std::function<void(OpenDialog&)>& use) {
-    const auto open = [command] {
-        PostMessageW(MainWindow, WM_COMMAND, static_cast<WPARAM>(command), 0);
-    };
-    UseDialog(handheld, open, use);
-}
-
 class DialogTest : public PlayedBoard {
 protected:
+    // Opens a dialog by whatever `open` does and uses it; what is still open then is closed by the
+    // OK in its title bar. Fails when no dialog opens.
+    void Use(const std::function<void()>& open, const std::function<void(OpenDialog&)>& use) {
+        bool used = false;
+        plans<DialogView> = {[&](DialogView*) {
+            used = true;
+            // Arrow keys ask the application where the focus is.
+            QApplication::setActiveWindow(&Host());
+            handheld->Settle();
+            OpenDialog dialog(*handheld);
+            use(dialog);
+            if (dialog.IsOpen()) {
+                dialog.TapTitleOk();
+            }
+            // Its loop waits for a message that was handled here already.
+            PostMessageW(TopWindow(), 0, 0, 0);
+        }};
+        open();
+        handheld->Settle();
+        EXPECT_TRUE(used);
+    }
+
     void Use(int command, const std::function<void(OpenDialog&)>& use) {
-        UseDialog(*handheld, command, use);
+        Use([command] { PostMessageW(MainWindow, WM_COMMAND, WPARAM(command), 0); }, use);
     }
 };

@@ -40,17 +40,6 @@ inline void SendMouse(QEvent::Type type, POINT client, Qt::MouseButton button = 
     SendMouse(MainView(), type, place, button);
 }
 
-inline POINT MiddleOfCell(int row, int col) {
-    return {BoardLeft - ScrollX + col * CellSize + CellSize / 2,
-            row * CellSize - ScrollY + CellSize / 2};
-}
-
-// What a keyboard sends along with a key: its letter, or with Ctrl its control character.
-inline QString TextOfKey(int key, Qt::KeyboardModifiers modifiers) {
-    const int letter = modifiers.testFlag(Qt::ControlModifier) ? key & 0x1F : key;
-    return key < 0x80 ? QString(QChar(letter)).toLower() : QString();
-}
-
 // The stylus touches one place of the widget and is lifted at another.
 inline void DragOver(QWidget* widget, QPointF from, QPointF to) {
     SendMouse(widget, QEvent::MouseButtonPress, from, Qt::LeftButton);
@@ -105,21 +94,8 @@ public:
     }
 
     void TapCell(int row, int col) {
-        const POINT middle = MiddleOfCell(row, col);
-        Tap(middle.x, middle.y);
-    }
-
-    // Two taps as quick as a host's double click.
-    void DoubleTapCell(int row, int col) {
-        TapCell(row, col);
-        SendMouse(QEvent::MouseButtonDblClick, MiddleOfCell(row, col));
-        LiftAt(MiddleOfCell(row, col));
-    }
-
-    void Hold(int x, int y) {
-        PutDown({x, y});
-        Settle();
-        LiftAt({x, y});
+        Tap(BoardLeft - ScrollX + col * CellSize + CellSize / 2,
+            row * CellSize - ScrollY + CellSize / 2);
     }
 
     void RightClick(int x, int y) {
@@ -157,8 +133,11 @@ public:
     }
 
     // A key of the host's keyboard, by the toolkit's number; letters and digits by their character.
+    // With Ctrl the text that is sent along is a control character.
     void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QKeyEvent press(QEvent::KeyPress, key, modifiers, TextOfKey(key, modifiers));
+        const int letter = modifiers.testFlag(Qt::ControlModifier) ? key & 0x1F : key;
+        const QString text = key < 0x80 ? QString(QChar(letter)).toLower() : QString();
+        QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
         QCoreApplication::sendEvent(MainView(), &press);
         Settle();
     }
@@ -225,11 +204,6 @@ public:
     // The screen as the host shows it.
     QImage Screen() {
         return Host().grab().toImage();
-    }
-
-    // A pixel of the main window's client area at magnification 1.
-    COLORREF Pixel(int x, int y) {
-        return ColorAt(Client(), x, y);
     }
 
     // The main window's client area, in device pixels.

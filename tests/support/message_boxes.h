@@ -201,14 +201,9 @@ inline void PickNextColor(COLORREF color, bool accept) {
     });
 }
 
-// What is done with the next menu of the program, or with its next dialog, which is still open
-// then: both run a loop of their own. A dialog that nobody planned to use is closed at once.
+// What is done with the next menu of the program, which is still open then.
 inline void UseNextMenu(std::function<void(QMenu*)> use) {
     plans<QMenu> = {std::move(use)};
-}
-
-inline void UseNextDialog(std::function<void()> use) {
-    plans<DialogView> = {[use = std::move(use)](DialogView*) { use(); }};
 }
 
 // The next box, chooser or menu is compared with its picture of that name (looks.h).

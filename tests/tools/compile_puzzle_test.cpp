@@ -1,10 +1,7 @@
 // The puzzle compiler's files, and what it says about texts that it cannot take.
-// COMPILE_PUZZLE_PATH is the built program.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include "support/boards.h"
-#include "support/temporary_home.h"
 #include "tools/puzzle_text.h"
 
 namespace {
@@ -161,34 +158,6 @@ TEST(WrongText, ThatIsBundledIsNotWellMade) {
     }
     const std::string good = SourceOf({"ABC", "DEF", "GHI"}, texts);
     ExpectRefused(Replace(good, ": 1 down", ':' + std::string(71, 'n')), 7, "longer than 70");
-}
-
-// Faults: half a puzzle that a build calls up to date, a puzzle written over its own text.
-TEST(CompileProgram, WritesWholePuzzlesOrNothing) {
-    const TemporaryHome home;
-    const auto run = [&home](const std::string& arguments) {
-        const std::string command = "cd '" + home.documents().string() + "' && '" +
-                                    COMPILE_PUZZLE_PATH + "' " + arguments + " 2>said";
-        return WEXITSTATUS(std::system(command.c_str()));
-    };
-    const auto read = [&home](const char* name) { return ReadBytes(home.documents() / name); };
-    WriteBytes(home.documents() / "good.txt", birds);
-    WriteBytes(home.documents() / "bad.txt", Replace(birds, "RAT", "R T"));
-    WriteBytes(home.documents() / "birds.puz", std::string(9999, '!'));
-    std::filesystem::create_directory(home.documents() / "folder");
-    for (const auto& [arguments, status] : {std::pair("good.txt birds.puz", 0),
-                                            {"none.txt birds.puz", 1},
-                                            {"folder birds.puz", 1},
-                                            {"good.txt folder", 1},
-                                            {"good.txt good.txt", 1},
-                                            {"good.txt", 2},
-                                            {"bad.txt birds.puz", 1}}) {
-        EXPECT_EQ(run(arguments), status) << arguments;
-    }
-    EXPECT_TRUE(read("said").starts_with("bad.txt:8: \" \" in the grid")) << read("said");
-    EXPECT_EQ(read("birds.puz"), Compile(birds));
-    EXPECT_EQ(read("good.txt"), birds);
-    EXPECT_EQ(home.Files().size(), 4U) << "a temporary file was left";
 }
 
 }  // namespace

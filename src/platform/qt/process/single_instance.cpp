@@ -257,12 +257,7 @@ HWND OtherInstance() {
 
 }  // namespace
 
-HWND FindWindowW(const WCHAR* className, const WCHAR* title) {
-    for (HWND window : StackedWindows()) {
-        if (window->className == className && window->title == title) {
-            return window;
-        }
-    }
+HWND FindWindowW(const WCHAR* className, const WCHAR*) {
     return ClaimInstance(className) ? nullptr : OtherInstance();
 }
 
