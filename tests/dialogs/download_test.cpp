@@ -191,10 +191,9 @@ TEST_F(Downloads, TooLongLinksOtherFilesAndANoStoreNothing) {
     EXPECT_EQ(CurrentPuzzlePath, u"\\My Documents\\start.puz"s) << "nothing is opened";
     TakeShownChoosers();
     for (const std::string& bytes :
-         {"<html><body>The page you asked for is not here, sorry.</body></html>"s,
-          " <!DocType html><title>Not found, sorry</title>"s, puzzle.substr(0, 45),
-          WithSizes(puzzle, 0, 0), WithSizes(puzzle, 6, 0), WithSizes(puzzle, 0, 6),
-          WithSizes(puzzle, 15, 21)}) {
+         {WithSizes("<HTML>" + puzzle, 6, 6), WithSizes(" <!DocType html>" + puzzle, 6, 6),
+          WithSizes("\r\n<?xml" + puzzle, 6, 6), puzzle.substr(0, 45), WithSizes(puzzle, 0, 0),
+          WithSizes(puzzle, 6, 0), WithSizes(puzzle, 0, 6), WithSizes(puzzle, 15, 21)}) {
         EXPECT_EQ(Told({{Page(bytes)}}), Error(u"Not a valid puzzle file, please check the URL."));
     }
     EXPECT_TRUE(TakeShownChoosers().empty());
@@ -207,11 +206,13 @@ TEST_F(Downloads, TooLongLinksOtherFilesAndANoStoreNothing) {
 TEST_F(Downloads, TheTitlesLettersAndDigitsAreSuggestedAndNothingElseIsRead) {
     const std::string head = puzzle.substr(0, gridOffset);
     const std::string grids = puzzle.substr(gridOffset, 72);
+    const std::string late = std::string(49, ' ') + "ab";
     const std::pair<std::string, std::string> blocks[] = {
         {puzzle, "TheSundayP"},
         {Titled(squareBoard, "\"?!\" ..."), ""},
         {Titled(squareBoard, "R\xC3\xA4tsel/7\\:"), "Rtsel7"},
-        {Titled(squareBoard, std::string(49, ' ') + "ab"), "a"},
+        {Titled(squareBoard, late), "a"},
+        {std::string(head).replace(heightOffset + 1, 1, "A") + "\0\0"s + grids + late, "a"},
         {puzzle.substr(0, 46), ""},
         {head + grids, ""},
         {head + grids + "AZaz09 end", "AZaz09end"},
