@@ -3,11 +3,9 @@
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 
-#include "app/repaint.h"
 #include "dialogs/first_block.h"
 #include "dialogs/link_list.h"
 #include "model/puzzle_file.h"
-#include "model/puzzle_parser.h"
 #include "platform/qt/files/device_paths.h"
 #include "platform/qt/network/network_module.h"
 #include "platform/qt/process/bring_up.h"

@@ -1,4 +1,3 @@
-#include <QtWidgets/QScrollBar>
 
 #include "support/dialogs.h"
 

@@ -1,7 +1,6 @@
 
 #include "keyboard/keyboard_visibility.h"
 #include "support/dialogs.h"
-#include "support/played_board.h"
 
 namespace {
 

@@ -1,8 +1,6 @@
 // What the player gets from servers of every kind, and does while waiting for them.
 #include "platform/internet.h"
 
-#include <QtCore/QProcess>
-#include <QtCore/QScopedValueRollback>
 #include <QtTest/QTest>
 
 #include "dialogs/downloader.h"

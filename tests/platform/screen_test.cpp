@@ -1,10 +1,5 @@
 // The screen around the program's window: its furniture - title bar, menu bar and soft input panel
 // - popups, boxes, windows and the guard against taps that were meant for something else.
-#include <QtCore/QScopedValueRollback>
-#include <QtCore/QThread>
-#include <QtGui/QHelpEvent>
-#include <QtGui/QWindow>
-#include <QtWidgets/QToolTip>
 
 #include "platform/qt/input/hold_cue.h"
 #include "platform/qt/input/tap_guard.h"

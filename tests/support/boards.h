@@ -35,8 +35,9 @@ struct RawPuzzle {
 // Nothing entered yet.
 inline BoardRows EmptyBoard(BoardRows rows) {
     for (std::string& row : rows) {
-        std::replace_if(
-            row.begin(), row.end(), [](char cell) { return cell != '.'; }, '-');
+        for (char& cell : row) {
+            cell = cell == '.' ? '.' : '-';
+        }
     }
     return rows;
 }

@@ -1,9 +1,6 @@
 // Using the program's dialogs through their real controls, as a person does.
 #pragma once
 
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTabBar>
-
 #include "platform/qt/screen/title_bar.h"
 #include "support/menus.h"
 #include "support/played_board.h"

@@ -3,11 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QtCore/QCoreApplication>
-#include <QtGui/QImage>
-#include <QtGui/QInputMethodEvent>
-#include <QtGui/QMouseEvent>
-#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QtWidgets>
 
 #include "app/view.h"
 #include "app/win_main.h"
@@ -71,8 +67,7 @@ public:
         Close();
     }
 
-    Handheld(const Handheld&) = delete;
-    Handheld& operator=(const Handheld&) = delete;
+    Q_DISABLE_COPY(Handheld)
 
     bool Running() const {
         return IsLiveWindow(MainWindow);

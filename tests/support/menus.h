@@ -1,7 +1,6 @@
 // Using the real popup menus with the arrow keys and Enter, as a person does.
 #pragma once
 
-#include <QtCore/QStringList>
 #include <QtTest/QTest>
 
 #include "support/handheld.h"

@@ -3,23 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QtCore/QEvent>
-#include <QtCore/QTimer>
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QColorDialog>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QSplitter>
+#include <QtWidgets/QtWidgets>
 #include <deque>
 #include <filesystem>
 #include <functional>
-#include <iosfwd>
-#include <ostream>
 #include <utility>
 #include <vector>
 

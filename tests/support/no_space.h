@@ -3,6 +3,7 @@
 
 #include <sys/resource.h>
 
+#include <QtCore/QtGlobal>
 #include <csignal>
 
 // As on a full disk, files of this process can grow no further.
@@ -18,8 +19,7 @@ public:
         setrlimit(RLIMIT_FSIZE, &before);
         std::signal(SIGXFSZ, SIG_DFL);
     }
-    NoSpace(const NoSpace&) = delete;
-    NoSpace& operator=(const NoSpace&) = delete;
+    Q_DISABLE_COPY(NoSpace)
 
 private:
     rlimit before{};

@@ -1,8 +1,6 @@
 // What the program has opened in the help viewer and in the browser.
 #pragma once
 
-#include <QtWidgets/QTextBrowser>
-
 #include "platform/qt/help/help_window.h"
 #include "support/message_boxes.h"
 
@@ -29,8 +27,7 @@ public:
     ~OpenedPages() {
         qputenv("PATH", path);
     }
-    OpenedPages(const OpenedPages&) = delete;
-    OpenedPages& operator=(const OpenedPages&) = delete;
+    Q_DISABLE_COPY(OpenedPages)
 
     // The chapter of the help that was opened since the last call, and the messages about
     // addresses. The help is closed again.

@@ -5,6 +5,7 @@
 
 #include "play/settings.h"
 #include "support/handheld.h"
+#include "support/message_boxes.h"
 #include "support/plain_record.h"
 
 // Every key of the on-screen keyboard, by its letter: where it flashes and what counts as it, right
@@ -176,8 +177,8 @@ public:
         }
     }
 
-    // Neither bevels nor a highlight; wrong letters are red. The title of what is said.
-    std::u16string Check() {
+    // Neither bevels nor a highlight; wrong letters are red. What is said, and its title.
+    std::vector<ShownMessage> Check() {
         bool anyLetter = false;
         bool anyWrong = false;
         for (PlainCell cell : CellsOf("Puzzle")) {
@@ -192,7 +193,14 @@ public:
             }
         }
         ShowView();
-        return !anyLetter ? u"Puzzle Checker" : anyWrong ? u"" : u"Nothing Wrong";
+        if (!anyLetter) {
+            return {
+                {u"This button will check puzzle for errors. You've have not yet started the "
+                 u"puzzle, so there is nothing to check.",
+                 u"Puzzle Checker"}};
+        }
+        const ShownMessage right{u"All the letters entered so far are correct.", u"Nothing Wrong"};
+        return std::vector<ShownMessage>(anyWrong ? 0 : 1, right);
     }
 
     void TurnDirection() {

@@ -6,14 +6,12 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
 inline void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream file(path, std::ios::binary);
-    file << bytes;
-    if (!file.flush()) {
+    if (!(file << bytes).flush()) {
         throw std::runtime_error("cannot write " + path.string());
     }
 }
@@ -23,9 +21,7 @@ inline std::string ReadBytes(const std::filesystem::path& path) {
     if (!file) {
         throw std::runtime_error("cannot read " + path.string());
     }
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 class TemporaryHome {
