@@ -65,7 +65,7 @@ bool ChosenFile::Create() {
 // It begins with the path of its puzzle. The state of the game does so, too.
 bool IsRecordOf(const WCHAR* puzzlePath, const WCHAR* path) {
     constexpr int recordSize = 4096;
-    std::array<char, recordSize + 1> bytes;
+    std::array<char, recordSize + 1> bytes = {};
     const int size = ReadFileStart(path, bytes);
     WCHAR state[MAX_PATH] = {};
     PathInFolder(ProgramFolder, stateFileName, state);
