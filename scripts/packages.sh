@@ -9,6 +9,7 @@ if grep -qsxF VERSION_CODENAME=bookworm /etc/os-release; then
 fi
 run_packages=("$svg_plugin" fonts-liberation fonts-dejavu-core qt6-wayland ca-certificates)
 test_packages=(libgtest-dev xvfb xdotool openbox imagemagick)
+package_packages=(debhelper dpkg-dev fakeroot lintian)
 
 missing_packages() {
     local installed package
