@@ -159,13 +159,15 @@ TEST_F(Downloads, AChosenOrANewLinkIsEditedWithTheInputPanelUpAndListedOnce) {
         EXPECT_TRUE(Host().PanelUp());
         handheld->TapPanel(12 + 9, 16 + 8);
         EXPECT_EQ(edit->text(), "http://q");
-        for (const char* path : {"/a.puz", "/a.puz", "/A.PUZ"}) {
+        const std::string refused = "http://localhost:1/a.puz";
+        for (const std::string& link :
+             {server.Link("/a.puz"), server.Link("/a.puz"), server.Link("/A.PUZ"), refused}) {
             dialog.Tap(controlGetNew);
-            dialog.Type(controlLink, QString::fromStdString(server.Link(path).substr(7)));
+            dialog.Type(controlLink, QString::fromStdString(link.substr(7)));
             Plan(asSuggested, {IDYES, IDYES});
             dialog.Press(Qt::Key_Return);
             EXPECT_EQ(dialog.Lines(controlLinks), (Links{defaultLink, server.Link("/a.puz")}));
-            EXPECT_TRUE(dialog.HasFocus(controlLinks));
+            EXPECT_EQ(dialog.HasFocus(controlLinks), link != refused);
         }
         EXPECT_EQ(server.Requests().size(), 3u);
         dialog.Tap(controlKeepLinks);

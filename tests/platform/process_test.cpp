@@ -42,6 +42,9 @@ TEST_F(StartedHelp, BringsEveryChapterToTheTopOfOneWindowAndLinksThemAll) {
             const int top = page->cursorRect(heading).top();
             EXPECT_TRUE(top >= 0 && top <= 20) << name.toStdString() << " at " << size.width();
         }
+        const QTextFrameFormat column = page->document()->rootFrame()->frameFormat();
+        const double width = size.width() - column.leftMargin() - column.rightMargin();
+        EXPECT_TRUE(width > 200 && width < 40 * page->font().pixelSize()) << width;
     }
     EXPECT_EQ(ShownHelpWindows().size(), 1u);
     handheld->Close();

@@ -1,7 +1,9 @@
 #include "platform/qt/process/bring_up.h"
 
+#include <QtCore/QSettings>
 #include <QtCore/QTimer>
 
+#include "platform/qt/files/device_paths.h"
 #include "platform/qt/files/first_start.h"
 #include "platform/qt/files/litter.h"
 #include "platform/qt/input/tap_guard.h"
@@ -29,6 +31,8 @@ int RunProgram() {
     WatchForEndings();
     WatchForPauses();
     PrepareFolders();
+    // What the choosers remember, visited folders and the player's own colours, is the game's.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ProgramFolderOnHost());
     constexpr int behindTheStart = 1000;
     QTimer::singleShot(behindTheStart, RemoveLitter);
     WCHAR commandLine[] = u"";
