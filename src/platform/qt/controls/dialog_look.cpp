@@ -1,6 +1,5 @@
 #include "platform/qt/controls/dialog_look.h"
 
-#include <QtWidgets/QStyleFactory>
 #include <algorithm>
 #include <utility>
 
@@ -85,23 +84,6 @@ void SetLengths(QString& text, double magnification) {
 }
 
 }  // namespace
-
-QStyle* DialogStyle() {
-    static QStyle* style = QStyleFactory::create("Fusion");
-    return style;
-}
-
-QPalette DialogPalette() {
-    QPalette palette(barColor, Qt::white);
-    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, inkColor);
-        palette.setColor(QPalette::Disabled, role, barEdgeColor);
-    }
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Highlight, titleBarColor);
-    palette.setColor(QPalette::HighlightedText, titleTextColor);
-    return palette;
-}
 
 QString DialogStyleSheet(double magnification) {
     const std::pair<const char*, QColor> colors[] = {

@@ -2,7 +2,9 @@
 #include "platform/qt/dialogs/color_chooser.h"
 
 #include <QtGui/QCloseEvent>
+#include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QColorDialog>
+#include <QtWidgets/QScrollArea>
 
 #include "platform/common_dialogs.h"
 #include "platform/dialogs.h"
@@ -29,6 +31,7 @@ public:
         : QColorDialog(QColor(ToQRgb(its.rgbResult)), &Host()), request(its) {
         setOption(QColorDialog::DontUseNativeDialog);
         openChooser = this;
+        Arrange();
     }
     ~Chooser() override {
         openChooser = nullptr;
@@ -51,6 +54,41 @@ protected:
     }
 
 private:
+    void Arrange() {
+        setFont(ModalFont());
+        adjustSize();
+        // It fixes its own size.
+        layout()->setSizeConstraint(QLayout::SetNoConstraint);
+        setMinimumSize(0, 0);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        FitIntoScreen(*this);
+        if (isFullScreen()) {
+            Narrow();
+        }
+    }
+
+    // The ready colours stand above the free ones, and what has no room even so can be scrolled.
+    void Narrow() {
+        constexpr int margin = 4;
+        layout()->setContentsMargins(margin, margin, margin, margin);
+        auto* halves = qobject_cast<QBoxLayout*>(layout()->itemAt(0)->layout());
+        if (halves != nullptr && width() < height()) {
+            halves->setDirection(QBoxLayout::TopToBottom);
+        }
+        auto* content = new QWidget;
+        content->setLayout(layout());
+        QFont smaller = ModalFont();
+        smaller.setPixelSize(smaller.pixelSize() * 4 / 5);
+        content->setFont(smaller);
+        auto* area = new QScrollArea;
+        area->setFrameShape(QFrame::NoFrame);
+        area->setWidgetResizable(true);
+        area->setWidget(content);
+        auto* whole = new QVBoxLayout(this);
+        whole->setContentsMargins(0, 0, 0, 0);
+        whole->addWidget(area);
+    }
+
     const CHOOSECOLOR& request;
 };
 

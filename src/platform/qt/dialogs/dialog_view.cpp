@@ -30,8 +30,6 @@ DialogView::DialogView(QWidget* host, HWND dialog, std::function<void()> place)
     // A tap beside the controls leaves the focus where it is.
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_InputMethodEnabled, false);
-    setStyle(DialogStyle());
-    setPalette(DialogPalette());
 }
 
 bool DialogView::HasFocusInside() const {

@@ -3,7 +3,6 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
 #include <QtGui/QFontMetrics>
-#include <QtGui/QScreen>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QListView>
@@ -52,13 +51,6 @@ protected:
     }
 };
 
-QSize ChooserSize(const QFileDialog& dialog) {
-    const QSizeF wanted = QSizeF(300, 220) * ScreenMagnification();
-    const QSizeF desktop = dialog.screen()->availableSize();
-    constexpr double most = 0.9;
-    return wanted.expandedTo(QSizeF(480, 360)).boundedTo(desktop * most).toSize();
-}
-
 // As high as the text beside them. Those on the buttons only repeat what stands there.
 void SizeSigns(const QFileDialog& dialog) {
     constexpr int toolkitsSmallest = 16;
@@ -77,10 +69,18 @@ void SizeSigns(const QFileDialog& dialog) {
     }
 }
 
-// Names alone: beside the places there is no room for columns.
+// Names alone, and of one type: a small screen has no room for columns and for every button.
 void MakeReadable(QFileDialog& dialog) {
     dialog.setViewMode(QFileDialog::List);
-    dialog.resize(ChooserSize(dialog));
+    for (const char* name : {"lookInLabel", "forwardButton", "listModeButton", "detailModeButton",
+                             "fileTypeLabel", "fileTypeCombo"}) {
+        if (auto* part = dialog.findChild<QWidget*>(name)) {
+            part->hide();
+        }
+    }
+    const QSizeF size = QSizeF(300, 220) * ScreenMagnification();
+    dialog.resize(size.expandedTo(QSizeF(480, 360)).toSize());
+    FitIntoScreen(dialog);
     if (auto* places = dialog.findChild<QListView*>("sidebar")) {
         places->setItemDelegate(new PlaceNames(places));
     }

@@ -100,8 +100,6 @@ public:
     // Before the screen is shown, the middle of the host's screen is the place for a box.
     Box(const QString& title, UINT style) : QDialog(Host().isVisible() ? &Host() : nullptr) {
         setWindowTitle(title);
-        setStyle(DialogStyle());
-        setPalette(DialogPalette());
         setStyleSheet(DialogStyleSheet(ScreenMagnification()));
         const int space = Magnified(margin);
         rows->setContentsMargins(space, space, space, space);
@@ -141,6 +139,17 @@ public:
     }
 
 protected:
+    // On a small screen there may be no frame between white and white.
+    void paintEvent(QPaintEvent* event) override {
+        QDialog::paintEvent(event);
+        if (Host().isFullScreen()) {
+            const int width = Magnified(1);
+            QPainter painter(this);
+            painter.setPen(QPen(titleBarColor, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+            painter.drawRect(
+                rect().adjusted(width / 2, width / 2, -(width + 1) / 2, -(width + 1) / 2));
+        }
+    }
     // The letter of a caption presses its button with Alt, and without.
     void keyPressEvent(QKeyEvent* event) override {
         for (auto* button : findChildren<QPushButton*>()) {

@@ -1,5 +1,6 @@
 #include "platform/qt/dialogs/modal.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QDialog>
 
 #include "platform/qt/common/screen_geometry.h"
@@ -10,6 +11,15 @@
 QFont ModalFont() {
     constexpr double em = 10;
     return TextFont(em * ScreenMagnification(), false);
+}
+
+void FitIntoScreen(QDialog& dialog) {
+    constexpr double most = 0.9;
+    const QSize room = dialog.screen()->availableSize() * most;
+    if (dialog.width() > room.width() || dialog.height() > room.height()) {
+        dialog.resize(dialog.screen()->size());
+        dialog.setWindowState(Qt::WindowFullScreen);
+    }
 }
 
 int RunModal(QDialog& dialog) {

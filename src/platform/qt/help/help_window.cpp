@@ -25,20 +25,6 @@ double TextEm() {
     return std::max(least, perMagnification * ScreenMagnification());
 }
 
-// The colours of the help's own text are made for white paper, whatever the desktop's are.
-QPalette PaperPalette() {
-    QPalette palette(barColor, barColor);
-    for (auto group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::WindowText, inkColor);
-        palette.setColor(group, QPalette::ButtonText, inkColor);
-        palette.setColor(group, QPalette::Text, inkColor);
-        palette.setColor(group, QPalette::Highlight, titleBarColor);
-        palette.setColor(group, QPalette::HighlightedText, titleTextColor);
-    }
-    palette.setColor(QPalette::Base, Qt::white);
-    return palette;
-}
-
 // Only after its first use, and kept: opened again it has the size and place it was left with.
 HelpWindow& TheHelpWindow() {
     static auto* window = new HelpWindow;
@@ -51,7 +37,9 @@ HelpWindow::HelpWindow() {
     const double em = TextEm();
     setWindowTitle("Quadrel Help");
     setWindowIcon(Host().windowIcon());
-    setPalette(PaperPalette());
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, barColor);
+    setPalette(colors);
     setFont(TextFont(em, false));
     page = new HelpPage(this, em);
     auto* bar = new QToolBar(this);

@@ -8,6 +8,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>
+#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 #include <algorithm>
 #include <utility>
@@ -45,6 +46,17 @@ QStringList LocalFiles(const QMimeData& data) {
     return files;
 }
 
+// How many times the handheld's screen fits.
+double TimesInto(QSizeF size) {
+    return std::min(size.width() / screenWidth, size.height() / screenHeight);
+}
+
+// On a small screen a desktop's frame and panels would leave too little to be read.
+bool FillsScreen() {
+    constexpr int least = 3;
+    return TimesInto(QGuiApplication::primaryScreen()->size()) < least;
+}
+
 void Place(QWidget* widget, const QRectF& exact) {
     widget->setGeometry(exact.toAlignedRect());
 }
@@ -61,7 +73,8 @@ HostWindow::HostWindow()
     : titleBar(new TitleBar(this)),
       menuBar(new MenuBarWidget(this)),
       panel(new SoftInputPanel(this)) {
-    setMinimumSize(screenWidth, screenHeight);
+    setMinimumSize(
+        QSize(screenWidth, screenHeight).boundedTo(QGuiApplication::primaryScreen()->size()));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAcceptDrops(true);
     menuBar->hide();
@@ -72,20 +85,20 @@ HostWindow::HostWindow()
     connect(menuBar, &MenuBarWidget::KeysLeft, this, &HostWindow::FocusProgram);
     connect(menuBar, &MenuBarWidget::PanelAsked, this, &HostWindow::SetPanelUp);
     resize(StartSize());
+    if (FillsScreen()) {
+        setWindowState(Qt::WindowFullScreen);
+    }
     FitScreen();
 }
 
-// The largest whole magnification that leaves the desktop around it in sight; a screen that is
-// not much larger than the handheld's is taken whole.
+// The largest whole magnification that leaves the desktop around it in sight.
 QSize HostWindow::StartSize() const {
-    const QSize desktop = QGuiApplication::primaryScreen()->availableSize();
-    constexpr double most = 0.9;
-    const double fit =
-        std::min(desktop.width() * most / screenWidth, desktop.height() * most / screenHeight);
-    if (fit < 1) {
-        return desktop.expandedTo(minimumSize());
+    if (FillsScreen()) {
+        return QGuiApplication::primaryScreen()->size();
     }
-    return QSize(screenWidth, screenHeight) * static_cast<int>(fit);
+    constexpr double most = 0.9;
+    const double fit = TimesInto(QGuiApplication::primaryScreen()->availableSize());
+    return QSize(screenWidth, screenHeight) * static_cast<int>(fit * most);
 }
 
 void HostWindow::AddView(ClientView* view) {
@@ -122,10 +135,24 @@ void HostWindow::FinishStart() {
 }
 
 void HostWindow::ShowIfHidden() {
-    if (!isVisible()) {
-        FitScreen();
-        ShowBareFirst();
+    if (isVisible()) {
+        return;
     }
+    FitScreen();
+    const bool first = windowHandle() == nullptr;
+    ShowBareFirst();
+    if (first) {
+        WatchForMinimizing();
+    }
+}
+
+// By whoever's button: of the one in a Wayland window's own frame only this signal tells.
+void HostWindow::WatchForMinimizing() {
+    connect(windowHandle(), &QWindow::windowStateChanged, this, [](Qt::WindowState state) {
+        if (state == Qt::WindowMinimized) {
+            TellProgramMinimized();
+        }
+    });
 }
 
 // For each widget that the toolkit shows it tells the session's aids for the disabled, and for the
@@ -241,13 +268,6 @@ void HostWindow::dragEnterEvent(QDragEnterEvent* event) {
 void HostWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     HandOver(LocalFiles(*event->mimeData()));
-}
-
-void HostWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
-        TellProgramMinimized();
-    }
-    QWidget::changeEvent(event);
 }
 
 bool HostWindow::event(QEvent* event) {

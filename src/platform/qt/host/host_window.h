@@ -51,7 +51,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
@@ -59,6 +58,7 @@ private:
     // Called with every frame; what nobody should wait for is done behind the first one.
     void FinishStart();
     void ShowBareFirst();
+    void WatchForMinimizing();
     QSize StartSize() const;
 
     HICON iconToShow = nullptr;

@@ -8,6 +8,7 @@
 #include "platform/qt/files/litter.h"
 #include "platform/qt/input/tap_guard.h"
 #include "platform/qt/look/font_warm_up.h"
+#include "platform/qt/look/palette.h"
 #include "platform/qt/process/endings.h"
 #include "platform/qt/process/pauses.h"
 #include "platform/resources.h"
@@ -18,8 +19,11 @@ std::unique_ptr<QApplication> BringHandheldUp(int& argumentCount, char** argumen
     // magnification takes care of the rest.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);
+    // The game looks the same under every desktop's theme.
+    QApplication::setStyle("Fusion");
     auto application = std::make_unique<QApplication>(argumentCount, arguments);
     WarmUpFonts();
+    QApplication::setPalette(HandheldPalette());
     QApplication::setApplicationName("Quadrel");
     QApplication::setDesktopFileName("quadrel");
     QApplication::setQuitOnLastWindowClosed(false);
