@@ -1,4 +1,5 @@
 
+#include "app/view.h"
 #include "keyboard/keyboard_visibility.h"
 #include "support/dialogs.h"
 
@@ -116,6 +117,8 @@ TEST_P(EveryDialog, ClosesWithTheProgramWhichSavesItsState) {
     });
     EXPECT_FALSE(handheld->Running());
     EXPECT_TRUE(std::filesystem::exists(home.stateFile()));
+    // Made anew behind the preferences, which a test closes from inside.
+    DeleteOffscreenBuffer();
 }
 
 using Looks = PlayedBoard;

@@ -57,6 +57,8 @@ public:
     // Starts the program with the screen at this magnification; its files are in the home.
     explicit Handheld(const TemporaryHome&, double magnification = 1) {
         Host().SetPanelUp(false);
+        // The tests' screen is a small one.
+        Host().setWindowState(Qt::WindowNoState);
         Resize(magnification);
         InitInstance(&programResources, SW_SHOW);
         Settle();

@@ -2,6 +2,7 @@
 
 #include <QtCore/QSettings>
 #include <QtCore/QTimer>
+#include <QtGui/QIcon>
 
 #include "platform/qt/files/device_paths.h"
 #include "platform/qt/files/first_start.h"
@@ -24,6 +25,8 @@ std::unique_ptr<QApplication> BringHandheldUp(int& argumentCount, char** argumen
     auto application = std::make_unique<QApplication>(argumentCount, arguments);
     WarmUpFonts();
     QApplication::setPalette(HandheldPalette());
+    // The toolkit's own signs, too: for a theme's it looks through hundreds of folders.
+    QIcon::setThemeSearchPaths({":/"});
     QApplication::setApplicationName("Quadrel");
     QApplication::setDesktopFileName("quadrel");
     QApplication::setQuitOnLastWindowClosed(false);
