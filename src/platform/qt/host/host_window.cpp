@@ -18,6 +18,7 @@
 #include "platform/qt/common/screen_geometry.h"
 #include "platform/qt/common/screen_layout.h"
 #include "platform/qt/host/client_view.h"
+#include "platform/qt/host/window_place.h"
 #include "platform/qt/look/colors.h"
 #include "platform/qt/look/icon_object.h"
 #include "platform/qt/screen/menu_bar.h"
@@ -87,6 +88,8 @@ HostWindow::HostWindow()
     resize(StartSize());
     if (FillsScreen()) {
         setWindowState(Qt::WindowFullScreen);
+    } else {
+        RestorePlace(*this);
     }
     FitScreen();
 }
@@ -254,6 +257,12 @@ void HostWindow::paintEvent(QPaintEvent* event) {
 }
 
 // The window closes when the program destroys it, after everything is saved.
+void HostWindow::hideEvent(QHideEvent* event) {
+    if (!event->spontaneous() && !FillsScreen()) {
+        KeepPlace(*this);
+    }
+}
+
 void HostWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     AskProgramToEnd();
