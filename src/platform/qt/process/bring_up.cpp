@@ -20,10 +20,10 @@ std::unique_ptr<QApplication> BringHandheldUp(int& argumentCount, char** argumen
     // magnification takes care of the rest.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);
-    // The game looks the same under every desktop's theme.
-    QApplication::setStyle("Fusion");
     auto application = std::make_unique<QApplication>(argumentCount, arguments);
     WarmUpFonts();
+    // The game looks the same under every desktop's theme, and whatever the environment asks for.
+    QApplication::setStyle("Fusion");
     QApplication::setPalette(HandheldPalette());
     // The toolkit's own signs, too: for a theme's it looks through hundreds of folders.
     QIcon::setThemeSearchPaths({":/"});
